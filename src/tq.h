@@ -1,0 +1,23 @@
+#pragma once
+/// Umbrella header: includes every public header of bsc, gandalf and tq.
+
+// --- bsc
+#include "bsc/AbstractData.h"
+#include "bsc/Command.h"
+#include "bsc/FSPercentEscapedString.h"
+#include "bsc/Hash.h"
+#include "bsc/IsNear.h"
+#include "bsc/Logger.h"
+
+// --- gandalf
+#include "gandalf/gandalf.h"
+
+// --- prm
+
+// --- support
+
+// --- clip
+
+// --- camera
+
+// --- modules
