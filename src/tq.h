@@ -19,5 +19,7 @@
 // --- clip
 
 // --- camera
+#include "camera/FilmType.h"
+#include "camera/FilmTypeFactory.h"
 
 // --- modules
