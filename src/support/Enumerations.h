@@ -5,7 +5,16 @@
 /// goes to text as its decimal value: written through QTextStream::operator<<(int), read through
 /// QTextStream::operator>>(unsigned int&) and stored as it stands, without checking that it names an
 /// enumerator. Code compares these values by number; the enumerator names below are only conveniences.
-/// TQ::FrameWarp::_Type lives with its class; the Gandalf enumerations' operators are in GandalfStreams.h.
+/// The same operators are given here for Gandalf's Gan_CameraType, Gan_Type and Gan_ImageFormat.
+/// TQ::FrameWarp::_Type and its operators live with their class.
+///
+/// Nine of the types can travel in a QVariant (see the end of this header): each registers its metatype
+/// under a fixed name the first time its id is asked for, e.g. by QVariant::fromValue or qMetaTypeId.
+
+#include "gandalf/CameraType.h"
+#include "gandalf/Common.h"
+
+#include <QMetaType>
 
 class QTextStream;
 
@@ -86,3 +95,29 @@ TQ_DECLARE_ENUM_STREAM_OPERATORS(TQ_BlendMode)
 TQ_DECLARE_ENUM_STREAM_OPERATORS(_TQ_CONTOUR_TYPE)
 TQ_DECLARE_ENUM_STREAM_OPERATORS(PIXELLATION_FILTER_TYPE)
 TQ_DECLARE_ENUM_STREAM_OPERATORS(_TQ_MOTION_INIT)
+TQ_DECLARE_ENUM_STREAM_OPERATORS(Gan_CameraType)
+TQ_DECLARE_ENUM_STREAM_OPERATORS(Gan_Type)
+TQ_DECLARE_ENUM_STREAM_OPERATORS(Gan_ImageFormat)
+
+#undef TQ_DECLARE_ENUM_STREAM_OPERATORS
+
+/// Metatype of one enumeration, registered on the first call of qt_metatype_id() (id 0 until then)
+/// under the name given in EnumerationMetaTypes.cpp. First calls must not race.
+#define TQ_DECLARE_ENUM_METATYPE(E)                                                                      \
+    template <>                                                                                          \
+    struct QMetaTypeId<E> {                                                                              \
+        enum { Defined = 1 };                                                                            \
+        static int qt_metatype_id();                                                                     \
+    };
+
+TQ_DECLARE_ENUM_METATYPE(Gan_CameraType)      // "Gan_CameraType"
+TQ_DECLARE_ENUM_METATYPE(_TrackModel)         // "TrackModel"
+TQ_DECLARE_ENUM_METATYPE(TQ_LUMINANCE_MODEL)  // "TQ_LUMINANCE_MODEL"
+TQ_DECLARE_ENUM_METATYPE(TQ_FILL_ALGORITHM)   // "TQ_FILL_ALGORITHM"
+TQ_DECLARE_ENUM_METATYPE(TQ_ILLUMINATION_MODEL) // "TQ_ILLUMINATION_MODEL"
+TQ_DECLARE_ENUM_METATYPE(TQ_REMOVESOURCE_MODE) // "TQ_REMOVESOURCE_MODE"
+TQ_DECLARE_ENUM_METATYPE(TQ_MATTE_SUBTYPE)    // "TQ_MATTE_SUBTYPE"
+TQ_DECLARE_ENUM_METATYPE(TQ_BlendMode)        // "TQ_BlendMode"
+TQ_DECLARE_ENUM_METATYPE(_DISTORTION_ALGORITHM) // "DISTORTION_ALGORITHM"
+
+#undef TQ_DECLARE_ENUM_METATYPE
