@@ -22,7 +22,10 @@ typedef enum {
     GAN_CUBIC_BSPLINE_CAMERA = 12,         ///< cubic B-spline displacement field of 17 x 17 weights
     GAN_CUBIC_BSPLINE_CAMERA_INV = 13,     ///< its inverse
     GAN_RADIAL_DISTORTION_2_INV = 14,      ///< inverse radial, two coefficients
-    GAN_DISTORTION_MAP = 15                ///< direct and inverse distortion map images
+    GAN_DISTORTION_MAP = 15,               ///< direct and inverse distortion map images
+    /* Saved text may hold any number: these widen the range to all of int. */
+    GAN_CAMERA_TYPE_MIN_ENUM = -0x7FFFFFFF - 1,
+    GAN_CAMERA_TYPE_MAX_ENUM = 0x7FFFFFFF
 } Gan_CameraType;
 
 #ifdef __cplusplus

@@ -22,9 +22,8 @@ size_t gan_type_sizeof(Gan_Type type)
     case GAN_INT: case GAN_UINT: case GAN_FLOAT: case GAN_INT32: case GAN_UINT32: return 4;
     case GAN_LONG: case GAN_ULONG: case GAN_DOUBLE: case GAN_INT64: return 8;
     case GAN_POINTER: return sizeof(void*);
-    case GAN_UNDEFINED_TYPE: return 0;
+    default: return 0; // undefined, and numbers that name no type
     }
-    return 0;
 }
 
 } // extern "C"

@@ -14,9 +14,8 @@ unsigned int gan_image_format_channels(Gan_ImageFormat format)
     case GAN_RGB_COLOUR_IMAGE: case GAN_BGR_COLOUR_IMAGE: case GAN_VECTOR_FIELD_3D: return 3;
     case GAN_RGB_COLOUR_ALPHA_IMAGE: case GAN_BGR_COLOUR_ALPHA_IMAGE: case GAN_RGBX: case GAN_RGBAS:
     case GAN_YUVX444: case GAN_YUVA444: return 4;
-    case GAN_UNDEFINED_IMAGE_FORMAT: return 0;
+    default: return 0; // undefined, and numbers that name no format
     }
-    return 0;
 }
 
 Gan_Image* gan_image_alloc(Gan_ImageFormat format, Gan_Type type, unsigned long height, unsigned long width)

@@ -1,0 +1,75 @@
+#include "bsc/FSPercentEscapedString.h"
+#include "bsc/Hash.h"
+#include "bsc/IsNear.h"
+#include "bsc/Logger.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+TEST(Logger, SinkTakesTheTextWithNothingAdded)
+{
+    std::vector<std::string> lines;
+    Bsc::Logger::instance().setSink([&](std::string const& line) { lines.push_back(line); });
+    Bsc::LOG_STRING(QString::fromUtf8("Parameter: 'x' \xc3\xa9"));
+    Bsc::LOG_STRING(QString());
+    Bsc::Logger::instance().setSink({});
+    Bsc::LOG_STRING("to standard error");
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_EQ(lines[0], "Parameter: 'x' \xc3\xa9");
+    EXPECT_EQ(lines[1], "");
+}
+
+TEST(Hash, EqualityFollowsTheBytesFedAndSurvivesComparison)
+{
+    Bsc::Hash a, b;
+    EXPECT_TRUE(a == b);
+    float const f = 1.5f;
+    double const d = 2.25;
+    a.update(&f, sizeof f);
+    EXPECT_FALSE(a == b);
+    b.update(&f, sizeof f);
+    EXPECT_TRUE(a == b);
+
+    // Comparing finishes a digest; further bytes must still count.
+    a.update(&d, sizeof d);
+    EXPECT_FALSE(a == b);
+    b.update(&d, sizeof d);
+    EXPECT_TRUE(a == b);
+
+    Bsc::Hash c = a;
+    EXPECT_TRUE(c == a);
+    c.update(&f, sizeof f);
+    EXPECT_TRUE(c != a);
+    c = a;
+    EXPECT_TRUE(c == a);
+
+    // The digest of "abc" is the published SHA-1 test vector.
+    Bsc::Hash abc;
+    abc.update("abc", 3);
+    unsigned char const expected[20] = {0xa9, 0x99, 0x3e, 0x36, 0x47, 0x06, 0x81, 0x6a, 0xba, 0x3e,
+                                        0x25, 0x71, 0x78, 0x50, 0xc2, 0x6c, 0x9c, 0xd0, 0xd8, 0x9d};
+    EXPECT_TRUE(std::equal(abc.digest().begin(), abc.digest().end(), expected));
+}
+
+TEST(IsNear, IsStrictAndSinglePrecision)
+{
+    EXPECT_TRUE(Bsc::isNear(1.0f, 1.0005f, 0.001f));
+    EXPECT_FALSE(Bsc::isNear(1.0f, 1.0f, 0.0f));
+    EXPECT_FALSE(Bsc::isNear(0.0f, 0.5f, 0.5f));
+    EXPECT_TRUE(Bsc::isNear(-2.0f, -2.25f, 0.2500001f));
+    EXPECT_FALSE(Bsc::isNear(NAN, NAN, 1.0f));
+}
+
+TEST(FSPercentEscapedString, EscapesReservedCharactersAndRoundTrips)
+{
+    Bsc::FSPercentEscapedString s(QString::fromUtf8("shot:01/a%b?\xc3\xa9"));
+    EXPECT_EQ(s.escaped(), QString::fromUtf8("shot%3A01%2Fa%25b%3F\xc3\xa9"));
+    EXPECT_EQ(Bsc::FSPercentEscapedString::fromEscaped(s.escaped()), s);
+    EXPECT_EQ(Bsc::FSPercentEscapedString::fromEscaped("50%").string(), QString("50%"));
+    EXPECT_EQ(Bsc::FSPercentEscapedString::fromEscaped("%zz%4").string(), QString("%zz%4"));
+    s.string() = "plain";
+    EXPECT_EQ(s.escaped(), QString("plain"));
+}
