@@ -17,6 +17,7 @@
 // --- support
 
 // --- clip
+#include "clip/LookupTableHelperMethods.h"
 
 // --- camera
 #include "camera/FilmType.h"
