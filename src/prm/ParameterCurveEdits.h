@@ -1,0 +1,161 @@
+#pragma once
+#include "prm/Parameter.h"
+#include "prm/ParameterEdit.h"
+
+namespace Prm {
+
+/// Sets the interpolation kind of the key at a time (made by `vSetInterpolationCommand`). Without a key
+/// at that time the setter finds nothing to do, in both directions.
+template <class T>
+class ParameterInterpolationEdit : public ParameterEdit {
+public:
+    ParameterInterpolationEdit(Parameter<T>* parameter, Interpolation newInterpolation, float time);
+    void doIt() override;
+    void undoIt() override;
+
+protected:
+    float fTime;
+    Interpolation eOldInterpolation;
+    Interpolation eNewInterpolation;
+    Parameter<T>* parameter;
+};
+
+/// Replaces the segment record of a key index (made by `vSetInterpolationDataCommand`).
+template <class T>
+class ParameterInterpolationDataEdit : public ParameterEdit {
+public:
+    ParameterInterpolationDataEdit(Parameter<T>* parameter, IType const& newData, unsigned int index);
+    void doIt() override;
+    void undoIt() override;
+
+protected:
+    unsigned int uiIndex;
+    IType tOldData;
+    IType tNewData;
+    Parameter<T>* parameter;
+};
+
+/// Sets the rule before the first key (made by `vSetExtrapolationBeforeCommand`).
+template <class T>
+class ParameterExtrapolationBeforeEdit : public ParameterEdit {
+public:
+    ParameterExtrapolationBeforeEdit(Parameter<T>* parameter, Extrapolation newExtrapolation);
+    void doIt() override;
+    void undoIt() override;
+
+protected:
+    Extrapolation eOldExtrapolation;
+    Extrapolation eNewExtrapolation;
+    Parameter<T>* parameter;
+};
+
+/// Sets the rule after the last key (made by `vSetExtrapolationAfterCommand`).
+template <class T>
+class ParameterExtrapolationAfterEdit : public ParameterEdit {
+public:
+    ParameterExtrapolationAfterEdit(Parameter<T>* parameter, Extrapolation newExtrapolation);
+    void doIt() override;
+    void undoIt() override;
+
+protected:
+    Extrapolation eOldExtrapolation;
+    Extrapolation eNewExtrapolation;
+    Parameter<T>* parameter;
+};
+
+template <class T>
+ParameterInterpolationEdit<T>::ParameterInterpolationEdit(Parameter<T>* parameter, Interpolation newInterpolation,
+                                                          float time)
+    : ParameterEdit(parameter), fTime(time), eOldInterpolation(newInterpolation),
+      eNewInterpolation(newInterpolation), parameter(parameter)
+{
+}
+
+template <class T>
+void ParameterInterpolationEdit<T>::doIt()
+{
+    if (!bDone) {
+        eOldInterpolation = parameter->interpolation(fTime);
+        bDone = true;
+    }
+    parameter->vSetInterpolation(eNewInterpolation, fTime);
+}
+
+template <class T>
+void ParameterInterpolationEdit<T>::undoIt()
+{
+    parameter->vSetInterpolation(eOldInterpolation, fTime);
+}
+
+template <class T>
+ParameterInterpolationDataEdit<T>::ParameterInterpolationDataEdit(Parameter<T>* parameter, IType const& newData,
+                                                                  unsigned int index)
+    : ParameterEdit(parameter), uiIndex(index), tOldData(newData), tNewData(newData), parameter(parameter)
+{
+}
+
+template <class T>
+void ParameterInterpolationDataEdit<T>::doIt()
+{
+    if (!bDone) {
+        tOldData = parameter->interpolationData(uiIndex);
+        bDone = true;
+    }
+    parameter->vSetInterpolationData(tNewData, uiIndex);
+}
+
+template <class T>
+void ParameterInterpolationDataEdit<T>::undoIt()
+{
+    parameter->vSetInterpolationData(tOldData, uiIndex);
+}
+
+template <class T>
+ParameterExtrapolationBeforeEdit<T>::ParameterExtrapolationBeforeEdit(Parameter<T>* parameter,
+                                                                      Extrapolation newExtrapolation)
+    : ParameterEdit(parameter), eOldExtrapolation(newExtrapolation), eNewExtrapolation(newExtrapolation),
+      parameter(parameter)
+{
+}
+
+template <class T>
+void ParameterExtrapolationBeforeEdit<T>::doIt()
+{
+    if (!bDone) {
+        eOldExtrapolation = parameter->extrapolationBefore();
+        bDone = true;
+    }
+    parameter->vSetExtrapolationBefore(eNewExtrapolation);
+}
+
+template <class T>
+void ParameterExtrapolationBeforeEdit<T>::undoIt()
+{
+    parameter->vSetExtrapolationBefore(eOldExtrapolation);
+}
+
+template <class T>
+ParameterExtrapolationAfterEdit<T>::ParameterExtrapolationAfterEdit(Parameter<T>* parameter,
+                                                                    Extrapolation newExtrapolation)
+    : ParameterEdit(parameter), eOldExtrapolation(newExtrapolation), eNewExtrapolation(newExtrapolation),
+      parameter(parameter)
+{
+}
+
+template <class T>
+void ParameterExtrapolationAfterEdit<T>::doIt()
+{
+    if (!bDone) {
+        eOldExtrapolation = parameter->extrapolationAfter();
+        bDone = true;
+    }
+    parameter->vSetExtrapolationAfter(eNewExtrapolation);
+}
+
+template <class T>
+void ParameterExtrapolationAfterEdit<T>::undoIt()
+{
+    parameter->vSetExtrapolationAfter(eOldExtrapolation);
+}
+
+} // namespace Prm
