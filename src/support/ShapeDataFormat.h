@@ -1,0 +1,53 @@
+#pragma once
+/// The formats in which shape data goes out to other applications. Each is a record only (label for the
+/// file dialog, extension, tag of the receiving application family, one flag); the export code is not
+/// part of the library. A format is told apart by its label, never by its extension.
+///
+/// The ten named formats are built lazily, each on the first call of its function, and every format
+/// built enters the registry then. So the registry holds only the formats asked for so far, and
+/// iEnumValue follows the order of first use (it is not saved anywhere). First calls must not race;
+/// afterwards the registry is read-only. Everything lives until the library unloads.
+
+#include <QString>
+#include <map>
+
+class TQ_ShapeDataFormat {
+public:
+    using Map = std::map<QString, TQ_ShapeDataFormat>;
+
+    /// Takes the next enumCount as iEnumValue and enters a copy under `fileTypeFilter`, unless the
+    /// registry already holds a format with that label (the first one stays).
+    TQ_ShapeDataFormat(QString const& fileTypeFilter, QString const& extension, bool bFlag,
+                       QString const& hostTag);
+
+    /// The named formats; each reference is to a static object built on the first call.
+    static TQ_ShapeDataFormat const& NUKE_ROTO();
+    static TQ_ShapeDataFormat const& NUKE_ROTO_PAINT();
+    static TQ_ShapeDataFormat const& VANTREL_SHAPE_SCRIPT();
+    static TQ_ShapeDataFormat const& FC_LUMBA_SHAPE();
+    static TQ_ShapeDataFormat const& AE_LUMBA_SHAPE();
+    static TQ_ShapeDataFormat const& SHAKE_SSF_SCRIPT();
+    static TQ_ShapeDataFormat const& FLAME_BATCH_SCRIPT();
+    static TQ_ShapeDataFormat const& FLAME_GMASK_SCRIPT();
+    static TQ_ShapeDataFormat const& COMBUSTION_GMASK_SCRIPT();
+    static TQ_ShapeDataFormat const& SHAKE_ROTOSHAPE_SCRIPT();
+
+    /// The formats built so far, in label (QString) order. Complete only once all ten were asked for.
+    static Map const& MAP_ALL();
+    /// A copy of the format with that label; an unknown label silently gives SHAKE_SSF_SCRIPT(), which
+    /// is built (and so registered) if it was not yet.
+    static TQ_ShapeDataFormat byName(QString const& fileTypeFilter);
+
+    int iEnumValue;
+    QString fileTypeFilter;
+    QString hostTag;
+    QString extension;
+    bool bFlag;
+
+    /// Number of formats constructed so far (copies excluded); only grows.
+    static int enumCount;
+
+private:
+    /// The registry, created empty on first use.
+    static Map& _formatsByName();
+};
