@@ -15,6 +15,13 @@
 // --- prm
 
 // --- support
+#include "support/BlendMode.h"
+#include "support/Enumerations.h"
+#include "support/Exception.h"
+#include "support/GandalfFailure.h"
+#include "support/ShapeDataFormat.h"
+#include "support/Strings.h"
+#include "support/XMLErrorHandler.h"
 
 // --- clip
 #include "clip/LookupTableHelperMethods.h"
