@@ -1,6 +1,7 @@
 #pragma once
 #include "prm/Parameter.h"
 #include "prm/ParameterEdit.h"
+#include "prm/ParameterEditTypes.h"
 
 namespace Prm {
 
@@ -48,5 +49,9 @@ void MoveChangeKeyframeEdit<T>::undoIt()
     if (bDone)
         parameter->moveAndChangeKeyframe(tOldValue, fNewTime, fOldTime);
 }
+
+#define TQ_EXTERN_MOVE_CHANGE_KEYFRAME_EDIT(T) extern template class MoveChangeKeyframeEdit<T>;
+TQ_FOR_EACH_NUMERIC_EDIT_TYPE(TQ_EXTERN_MOVE_CHANGE_KEYFRAME_EDIT)
+#undef TQ_EXTERN_MOVE_CHANGE_KEYFRAME_EDIT
 
 } // namespace Prm

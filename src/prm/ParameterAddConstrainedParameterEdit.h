@@ -1,6 +1,7 @@
 #pragma once
 #include "prm/Parameter.h"
 #include "prm/ParameterEdit.h"
+#include "prm/ParameterEditTypes.h"
 
 namespace Prm {
 
@@ -49,5 +50,10 @@ void ParameterAddConstrainedParameterEdit<T>::undoIt()
     slave->bUnconstrain();
     slave->vCopyKeyframeDataFrom(&savedSlave);
 }
+
+#define TQ_EXTERN_PARAMETER_ADD_CONSTRAINED_PARAMETER_EDIT(T) \
+    extern template class ParameterAddConstrainedParameterEdit<T>;
+TQ_FOR_EACH_EDIT_TYPE(TQ_EXTERN_PARAMETER_ADD_CONSTRAINED_PARAMETER_EDIT)
+#undef TQ_EXTERN_PARAMETER_ADD_CONSTRAINED_PARAMETER_EDIT
 
 } // namespace Prm

@@ -1,6 +1,7 @@
 #pragma once
 #include "prm/Parameter.h"
 #include "prm/ParameterEdit.h"
+#include "prm/ParameterEditTypes.h"
 
 namespace Prm {
 
@@ -157,5 +158,13 @@ void ParameterExtrapolationAfterEdit<T>::undoIt()
 {
     parameter->vSetExtrapolationAfter(eOldExtrapolation);
 }
+
+#define TQ_EXTERN_PARAMETER_CURVE_EDITS(T) \
+    extern template class ParameterInterpolationEdit<T>; \
+    extern template class ParameterInterpolationDataEdit<T>; \
+    extern template class ParameterExtrapolationBeforeEdit<T>; \
+    extern template class ParameterExtrapolationAfterEdit<T>;
+TQ_FOR_EACH_EDIT_TYPE(TQ_EXTERN_PARAMETER_CURVE_EDITS)
+#undef TQ_EXTERN_PARAMETER_CURVE_EDITS
 
 } // namespace Prm

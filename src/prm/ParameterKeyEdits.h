@@ -2,6 +2,7 @@
 #include "bsc/AbstractData.h"
 #include "prm/Parameter.h"
 #include "prm/ParameterEdit.h"
+#include "prm/ParameterEditTypes.h"
 
 #include <QVector>
 
@@ -196,5 +197,13 @@ void ParameterResetEdit<T>::undoIt()
     parameter->iAddKeyframe(fTime);
     parameter->vSetRawValue(tOldValue, fTime);
 }
+
+#define TQ_EXTERN_PARAMETER_KEY_EDITS(T) \
+    extern template class ParameterAddKeyEdit<T>; \
+    extern template class ParameterDeleteKeyEdit<T>; \
+    extern template class ParameterDeleteAllKeysEdit<T>; \
+    extern template class ParameterResetEdit<T>;
+TQ_FOR_EACH_EDIT_TYPE(TQ_EXTERN_PARAMETER_KEY_EDITS)
+#undef TQ_EXTERN_PARAMETER_KEY_EDITS
 
 } // namespace Prm

@@ -1,6 +1,7 @@
 #pragma once
 #include "prm/Parameter.h"
 #include "prm/ParameterEdit.h"
+#include "prm/ParameterEditTypes.h"
 
 namespace Prm {
 
@@ -86,5 +87,11 @@ void ParameterDefaultValueEdit<T>::undoIt()
 {
     parameter->vSetDefault(tOldDefault);
 }
+
+#define TQ_EXTERN_PARAMETER_VALUE_EDITS(T) \
+    extern template class ParameterValueEdit<T>; \
+    extern template class ParameterDefaultValueEdit<T>;
+TQ_FOR_EACH_EDIT_TYPE(TQ_EXTERN_PARAMETER_VALUE_EDITS)
+#undef TQ_EXTERN_PARAMETER_VALUE_EDITS
 
 } // namespace Prm

@@ -1,0 +1,3 @@
+#include "prm/ParameterEditsInstantiation.h"
+
+TQ_FOR_EACH_NUMERIC_EDIT_TYPE(TQ_INSTANTIATE_NUMERIC_PARAMETER_EDITS)
