@@ -1,0 +1,7 @@
+#include "prm/ParameterInstantiation.h"
+
+namespace Prm {
+
+template class Parameter<QString>;
+
+} // namespace Prm
