@@ -1,0 +1,83 @@
+#include "support/ShapeDataFormat.h"
+
+#include <gtest/gtest.h>
+
+#include <QStringList>
+
+namespace {
+
+QString const kCombustion = QStringLiteral("Combustion GMask Script (*.gmask)");
+QString const kShakeSsf = QStringLiteral("Shake Rotoshape (*.ssf)");
+
+void expectFormat(TQ_ShapeDataFormat const& format, char const* filter, char const* extension, bool bFlag,
+                  char const* hostTag)
+{
+    SCOPED_TRACE(filter);
+    EXPECT_EQ(format.fileTypeFilter, QString::fromLatin1(filter));
+    EXPECT_EQ(format.extension, QString::fromLatin1(extension));
+    EXPECT_EQ(format.bFlag, bFlag);
+    EXPECT_EQ(format.hostTag, QString::fromLatin1(hostTag));
+}
+
+} // namespace
+
+// One test on purpose: the registry only fills, so its steps depend on what was built before them.
+TEST(ShapeDataFormat, RegistryFillsLazilyAndListsInLabelOrder)
+{
+    TQ_ShapeDataFormat::Map const& all = TQ_ShapeDataFormat::MAP_ALL();
+    ASSERT_EQ(all.count(kCombustion), 0u) << "nothing else in this program may build the formats";
+
+    // Before its function runs, a label is unknown and falls back to Shake Rotoshape, which that builds.
+    int const countBefore = TQ_ShapeDataFormat::enumCount;
+    TQ_ShapeDataFormat const fallback = TQ_ShapeDataFormat::byName(kCombustion);
+    EXPECT_EQ(fallback.fileTypeFilter, kShakeSsf);
+    EXPECT_EQ(all.count(kShakeSsf), 1u);
+    EXPECT_EQ(TQ_ShapeDataFormat::byName(QString()).fileTypeFilter, kShakeSsf);
+
+    // Built once, whatever the number of calls; the counter rises once and numbers it.
+    int const countAfterFallback = TQ_ShapeDataFormat::enumCount;
+    TQ_ShapeDataFormat const& combustion = TQ_ShapeDataFormat::COMBUSTION_GMASK_SCRIPT();
+    EXPECT_EQ(&TQ_ShapeDataFormat::COMBUSTION_GMASK_SCRIPT(), &combustion);
+    EXPECT_EQ(TQ_ShapeDataFormat::enumCount, countAfterFallback + 1);
+    EXPECT_EQ(combustion.iEnumValue, countAfterFallback);
+    EXPECT_GE(countAfterFallback, countBefore);
+    EXPECT_EQ(TQ_ShapeDataFormat::byName(kCombustion).iEnumValue, combustion.iEnumValue);
+    expectFormat(TQ_ShapeDataFormat::byName(kCombustion), "Combustion GMask Script (*.gmask)", ".gmask", false,
+                 "combustion");
+
+    // All ten, with their records.
+    expectFormat(TQ_ShapeDataFormat::NUKE_ROTO(), "Nuke v6.2 Roto (*.nk)", ".nk", true, "nuke");
+    expectFormat(TQ_ShapeDataFormat::NUKE_ROTO_PAINT(), "Nuke Roto Paint (*.nk)", ".nk", true, "nuke");
+    expectFormat(TQ_ShapeDataFormat::VANTREL_SHAPE_SCRIPT(), "Vantrel Layer Script (*.layer)", ".layer", false,
+                 "generic");
+    expectFormat(TQ_ShapeDataFormat::FC_LUMBA_SHAPE(), "lumba shape data for Final Cut", ".xml", true, "finalcut");
+    expectFormat(TQ_ShapeDataFormat::AE_LUMBA_SHAPE(), "lumba shape data for AE", ".shape4ae", true,
+                 "aftereffects");
+    expectFormat(TQ_ShapeDataFormat::SHAKE_SSF_SCRIPT(), "Shake Rotoshape (*.ssf)", ".ssf", true, "shake");
+    expectFormat(TQ_ShapeDataFormat::FLAME_BATCH_SCRIPT(), "Flame Action Script (*.action)", ".action", false,
+                 "ifffse");
+    expectFormat(TQ_ShapeDataFormat::FLAME_GMASK_SCRIPT(), "Flame GMask Script (*.gmask)", ".gmask", false,
+                 "ifffse");
+    expectFormat(TQ_ShapeDataFormat::SHAKE_ROTOSHAPE_SCRIPT(), "Shake Script (*.shk)", ".shk", false, "shake");
+
+    QStringList labels;
+    for (auto const& entry : all) {
+        EXPECT_EQ(entry.first, entry.second.fileTypeFilter);
+        labels << entry.first;
+    }
+    // QString order: upper case before lower case.
+    EXPECT_EQ(labels, (QStringList{"Combustion GMask Script (*.gmask)", "Flame Action Script (*.action)",
+                                   "Flame GMask Script (*.gmask)", "Nuke Roto Paint (*.nk)",
+                                   "Nuke v6.2 Roto (*.nk)", "Shake Rotoshape (*.ssf)", "Shake Script (*.shk)",
+                                   "Vantrel Layer Script (*.layer)", "lumba shape data for AE",
+                                   "lumba shape data for Final Cut"}));
+    EXPECT_EQ(TQ_ShapeDataFormat::enumCount, countBefore + 10);
+
+    // A format constructed under a taken label leaves the registered one in place.
+    int const count = TQ_ShapeDataFormat::enumCount;
+    TQ_ShapeDataFormat const impostor(kCombustion, QStringLiteral(".x"), true, QStringLiteral("other"));
+    EXPECT_EQ(impostor.iEnumValue, count);
+    EXPECT_EQ(TQ_ShapeDataFormat::enumCount, count + 1);
+    EXPECT_EQ(all.size(), 10u);
+    EXPECT_EQ(TQ_ShapeDataFormat::byName(kCombustion).extension, QStringLiteral(".gmask"));
+}
