@@ -1,0 +1,31 @@
+#pragma once
+#include "prm/TextField.h"
+
+#include <QHash>
+#include <QString>
+
+namespace Prm {
+
+/// Chooses which of several parameters that share a script name takes a line, so that each gets back the
+/// lines it wrote.
+///
+/// Each such parameter wrote one block of lines in field order (`TextField`). A line goes to the current
+/// block while it still fits that order, where only key lines may repeat; a field that arrives again or
+/// out of order closes the block and the line goes to the next parameter of that name. After the last
+/// one the choice starts again at the first, so that the same text can be read a second time. Names that
+/// only one parameter carries keep no state. Owned by value by its set; not copied with it.
+class ParameterLineRouter {
+public:
+    /// Index, among `candidateCount` parameters named `name` in set order, of the one that takes a line
+    /// of `field`. A line of unknown field goes to the current block and changes nothing.
+    int iChoose(QString const& name, int candidateCount, TextField field);
+
+private:
+    struct Cursor {
+        int iCandidate = 0;
+        TextField eLast = TextField::Unknown;
+    };
+    QHash<QString, Cursor> cursors;
+};
+
+} // namespace Prm
