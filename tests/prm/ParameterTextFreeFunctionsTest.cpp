@@ -1,0 +1,168 @@
+#include "prm/CurveTypeNames.h"
+#include "prm/KeyframeDeclaration.h"
+#include "prm/StreamOperators.h"
+#include "prm/ValueText.h"
+
+#include <gtest/gtest.h>
+
+#include <QTextStream>
+
+namespace {
+
+template <class T>
+QString qstrWrite(T const& value)
+{
+    QString text;
+    QTextStream out(&text);
+    out << value;
+    out.flush();
+    return text;
+}
+
+} // namespace
+
+TEST(ParameterTextStreamOperators, BoolPrintsDigitsAndReadsWordsAndNumbers)
+{
+    EXPECT_EQ(qstrWrite(true), "1");
+    EXPECT_EQ(qstrWrite(false), "0");
+
+    QString text("1, TRUE false 0 -3 maybe");
+    QTextStream in(&text);
+    bool value = false;
+    in >> value;
+    EXPECT_TRUE(value);
+    QChar comma;
+    in >> comma;
+    EXPECT_EQ(comma, QLatin1Char(',')) << "the separator of a key line stays in the stream";
+    in >> value;
+    EXPECT_TRUE(value);
+    in >> value;
+    EXPECT_FALSE(value);
+    in >> value;
+    EXPECT_FALSE(value);
+    in >> value;
+    EXPECT_TRUE(value);
+    EXPECT_EQ(in.status(), QTextStream::Ok);
+    value = true;
+    in >> value;
+    EXPECT_FALSE(value);
+    EXPECT_EQ(in.status(), QTextStream::ReadCorruptData);
+
+    QString empty("   ");
+    QTextStream atEnd(&empty);
+    atEnd >> value;
+    EXPECT_EQ(atEnd.status(), QTextStream::ReadPastEnd);
+}
+
+TEST(ParameterTextStreamOperators, UnsignedCharIsADecimalNumber)
+{
+    EXPECT_EQ(qstrWrite(static_cast<unsigned char>(200)), "200");
+    EXPECT_EQ(qstrWrite(static_cast<unsigned char>(0)), "0");
+
+    QString text("65, 258");
+    QTextStream in(&text);
+    unsigned char value = 0;
+    in >> value;
+    EXPECT_EQ(value, 65);
+    QChar comma;
+    in >> comma;
+    in >> value;
+    EXPECT_EQ(value, 2) << "low 8 bits of an out-of-range number";
+}
+
+TEST(ParameterTextKeyframeDeclaration, SplitsTheInnerCallHonouringQuotes)
+{
+    EXPECT_EQ(Prm::parseKeyframeDeclaration("keyframes.append( Key( 1, 0.5, Linear ) )"),
+              (QStringList{"1", "0.5", "Linear"}));
+    EXPECT_EQ(Prm::parseKeyframeDeclaration("keyframes.append( BezierKey( 1, 0.5, 8, 0.1, -8, -0.1 ) )"),
+              (QStringList{"1", "0.5", "8", "0.1", "-8", "-0.1"}));
+    EXPECT_EQ(Prm::parseKeyframeDeclaration("KEYFRAMES.APPEND(KEY(2,3,STEP))"),
+              (QStringList{"2", "3", "STEP"}));
+    // Commas and parentheses inside quotes belong to the value, and the quotes stay for the reader.
+    EXPECT_EQ(Prm::parseKeyframeDeclaration("keyframes.append( Key( 4, \"a, (b)\", Step ) )"),
+              (QStringList{"4", "\"a, (b)\"", "Step"}));
+    // An unclosed call still gives its entries.
+    EXPECT_EQ(Prm::parseKeyframeDeclaration("keyframes.append( Key( 1, 2"), (QStringList{"1", "2"}));
+    EXPECT_EQ(Prm::parseKeyframeDeclaration("keyframes.append( Key( 1 ) )").size(), 1);
+    EXPECT_TRUE(Prm::parseKeyframeDeclaration("keyframes").isEmpty());
+}
+
+TEST(ParameterTextCurveNames, NamesRoundTripAndReadersAreLenient)
+{
+    EXPECT_EQ(Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(0)), "Unset");
+    EXPECT_EQ(Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(1)), "Step");
+    EXPECT_EQ(Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(2)), "Linear");
+    EXPECT_EQ(Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(3)), "Bezier");
+    EXPECT_EQ(Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(6)), "Custom 2");
+    EXPECT_EQ(Prm::qstrExtrapolationTypeString(static_cast<Prm::Extrapolation>(0)), "Unset");
+    EXPECT_EQ(Prm::qstrExtrapolationTypeString(static_cast<Prm::Extrapolation>(1)), "Hold");
+    EXPECT_EQ(Prm::qstrExtrapolationTypeString(static_cast<Prm::Extrapolation>(2)), "Linear");
+    EXPECT_EQ(Prm::qstrExtrapolationTypeString(static_cast<Prm::Extrapolation>(3)), "Custom 0");
+
+    for (int i = 0; i < 9; ++i) {
+        Prm::Interpolation interpolation{};
+        ASSERT_TRUE(Prm::bStringToInterpolationType(
+            Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(i)), interpolation));
+        EXPECT_EQ(static_cast<int>(interpolation), i);
+        Prm::Extrapolation extrapolation{};
+        ASSERT_TRUE(Prm::bStringToExtrapolationType(
+            Prm::qstrExtrapolationTypeString(static_cast<Prm::Extrapolation>(i)), extrapolation));
+        EXPECT_EQ(static_cast<int>(extrapolation), i);
+    }
+
+    Prm::Interpolation interpolation = static_cast<Prm::Interpolation>(1);
+    EXPECT_TRUE(Prm::bStringToInterpolationType(" linear ) )", interpolation));
+    EXPECT_EQ(static_cast<int>(interpolation), 2);
+    EXPECT_TRUE(Prm::bStringToInterpolationType("CUSTOM 1)", interpolation));
+    EXPECT_EQ(static_cast<int>(interpolation), 5);
+    for (char const* bad : {"Hold", "", "Custom", "Custom -1", "Custom x", "Linearly"}) {
+        EXPECT_FALSE(Prm::bStringToInterpolationType(bad, interpolation)) << bad;
+        EXPECT_EQ(static_cast<int>(interpolation), 5) << "left alone on failure";
+    }
+    Prm::Extrapolation extrapolation = static_cast<Prm::Extrapolation>(2);
+    EXPECT_FALSE(Prm::bStringToExtrapolationType("Step", extrapolation));
+    EXPECT_TRUE(Prm::bStringToExtrapolationType("hOLD", extrapolation));
+    EXPECT_EQ(static_cast<int>(extrapolation), 1);
+}
+
+TEST(ParameterTextValueText, QuotingAndWordReading)
+{
+    EXPECT_EQ(Prm::ValueText<QString>::qstrWritten("say \"hi\""), "\"say \"hi\"\"");
+    EXPECT_EQ(Prm::ValueText<QString>::qstrDisplay("a b"), "a b");
+    QString quoted("\"a=b\"");
+    EXPECT_EQ(Prm::ValueText<QString>::tRead(quoted), "a=b");
+    QString half("\"a");
+    EXPECT_EQ(Prm::ValueText<QString>::tRead(half), "\"a") << "needs a quote at both ends";
+    QString lone("\"");
+    EXPECT_EQ(Prm::ValueText<QString>::tRead(lone), "");
+
+    QString word;
+    EXPECT_TRUE(Prm::ValueText<QString>::bReadWord("\"two words\"", word));
+    EXPECT_EQ(word, "\"two") << "one blank-delimited word, quotes kept";
+    double d = 0;
+    EXPECT_FALSE(Prm::ValueText<double>::bReadWord("abc", d));
+    EXPECT_TRUE(Prm::ValueText<double>::bReadWord("2.5", d));
+    EXPECT_EQ(d, 2.5);
+
+    // Six significant digits at default stream settings.
+    EXPECT_EQ(Prm::ValueText<double>::qstrWritten(3.14159265), "3.14159");
+    EXPECT_EQ(Prm::ValueText<float>::qstrWritten(1234567.0f), "1.23457e+06");
+}
+
+TEST(ParameterTextValueText, VariantTypes)
+{
+    EXPECT_EQ(Prm::ValueText<double>::variant(1.5).userType(), int(QMetaType::Double));
+    EXPECT_EQ(Prm::ValueText<float>::variant(1.5f).userType(), int(QMetaType::Float));
+    EXPECT_EQ(Prm::ValueText<unsigned char>::variant(7).userType(), int(QMetaType::UChar));
+    EXPECT_EQ(Prm::ValueText<bool>::variant(true).userType(), int(QMetaType::Bool));
+    EXPECT_EQ(Prm::ValueText<unsigned int>::variant(7u).userType(), int(QMetaType::UInt));
+
+    int value = 3;
+    EXPECT_TRUE(Prm::ValueText<int>::bFromVariant(QVariant(QString("12")), value));
+    EXPECT_EQ(value, 12);
+    EXPECT_TRUE(Prm::ValueText<int>::bFromVariant(QVariant(QString("x")), value));
+    EXPECT_EQ(value, 0) << "a failed conversion gives zero";
+    value = 3;
+    EXPECT_FALSE(Prm::ValueText<int>::bFromVariant(QVariant(QStringList{"a"}), value));
+    EXPECT_EQ(value, 3);
+}
