@@ -24,6 +24,10 @@
 #include "support/XMLErrorHandler.h"
 
 // --- clip
+#include "clip/BaseClipInfo.h"
+#include "clip/BaseClipInfoContainer.h"
+#include "clip/FrameOffsetParameter.h"
+#include "clip/IBaseClip.h"
 #include "clip/LookupTableHelperMethods.h"
 
 // --- camera
