@@ -1,0 +1,343 @@
+#include "ChangeRecorder.h"
+#include "prm/NumericParameter.h"
+#include "prm/Parameter.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using namespace Prm;
+using Change = ParameterChange;
+
+namespace {
+
+/// Exposes the record vector, which only the text format and the edits see otherwise.
+template <class T>
+class ProbeParameter : public NumericParameter<T> {
+public:
+    ProbeParameter(T value, T minimum, T maximum, Interpolation interpolation, Extrapolation extrapolation)
+        : NumericParameter<T>(true, "Probe", value, minimum, maximum, interpolation, extrapolation) {}
+    int recordCount() const { return this->interpolationRecords.size(); }
+    IType record(int i) const { return this->interpolationRecords[i]; }
+    void setStreamingIn(bool b) { this->bStreamingIn = b; }
+};
+
+using Probe = ProbeParameter<double>;
+
+Probe linearCurve()
+{
+    Probe p(0.0, -1000.0, 1000.0, InterpolationLinear, ExtrapolationHold);
+    p.vSetValue(0.0, 0.0f);
+    p.vSetValue(10.0, 10.0f);
+    p.vSetValue(30.0, 20.0f);
+    return p;
+}
+
+} // namespace
+
+TEST(ParameterKeys, ConstructorsSetNamesValuesAndRules)
+{
+    Parameter<int> two(true, "Gain");
+    EXPECT_EQ(two.qstrScriptName(), "Gain");
+    EXPECT_EQ(two.qstrDisplayName(), "Gain");
+    EXPECT_EQ(two.staticValue(), 0);
+    EXPECT_EQ(two.extrapolationBefore(), ExtrapolationUnset);
+    EXPECT_EQ(two.interpolation(0.0f), InterpolationUnset);
+    EXPECT_FALSE(two.isHidden());
+
+    Parameter<float> five(false, "Blur", 2.5f, InterpolationLinear, ExtrapolationLinear);
+    EXPECT_EQ(five.staticValue(), 2.5f);
+    EXPECT_EQ(five.defaultValue(), 2.5f);
+    EXPECT_FALSE(five.isKeyframed());
+    EXPECT_EQ(five.extrapolationAfter(), ExtrapolationHold); // not keyframed
+
+    Parameter<bool> none;
+    EXPECT_TRUE(none.isKeyframed());
+    EXPECT_EQ(none.qstrDisplayName(), "Not Set");
+    EXPECT_TRUE(none.qstrScriptName().isEmpty());
+
+    five.hide(true);
+    Parameter<float> copy(five);
+    EXPECT_TRUE(copy.isHidden());
+    EXPECT_EQ(copy.staticValue(), 2.5f);
+}
+
+TEST(ParameterKeys, ReadsAtBetweenAndBeyondKeysOfAPlainParameter)
+{
+    Parameter<double> p(true, "P", 7.0, InterpolationLinear, ExtrapolationLinear);
+    EXPECT_EQ(p.value(3.0f, nullptr), 7.0); // no keys: the static value, not the default
+    p.vSetDefault(99.0);
+    EXPECT_EQ(p.value(3.0f, nullptr), 7.0);
+    p.vSetValue(1.0, 0.0f);
+    p.vSetValue(5.0, 10.0f);
+    p.vSetValue(2.0, 20.0f);
+    // A plain parameter never interpolates or extrapolates, whatever the records and rules say.
+    EXPECT_EQ(p.value(5.0f, nullptr), 1.0);
+    EXPECT_EQ(p.value(15.0f, nullptr), 5.0);
+    EXPECT_EQ(p.value(-5.0f, nullptr), 1.0);
+    EXPECT_EQ(p.value(50.0f, nullptr), 2.0);
+    EXPECT_EQ(p.value(10.0f, nullptr), 5.0);
+}
+
+TEST(ParameterKeys, SetValueInsertsInOrderAndSignals)
+{
+    Parameter<int> p(true, "P", 0, InterpolationStep, ExtrapolationHold);
+    ChangeRecorder rec(p);
+    EXPECT_EQ(p.vSetValue(5, 10.0f), 0);
+    EXPECT_EQ(p.vSetValue(3, 0.0f), 0);
+    EXPECT_EQ(p.vSetValue(4, 5.0f), 1);
+    EXPECT_EQ(p.keyframeCount(), 3u);
+    EXPECT_EQ(p.keyframeTime(0), 0.0f);
+    EXPECT_EQ(p.keyframeTime(2), 10.0f);
+    ASSERT_EQ(rec.events.size(), 6u);
+    EXPECT_EQ(rec.events[4], ChangeRecorder::Event(Change::KeyframeAdded, 1));
+    EXPECT_EQ(rec.events[5], ChangeRecorder::Event(Change::ValueChanged, 1));
+
+    rec.events.clear();
+    EXPECT_EQ(p.vSetValue(8, 5.0f), 1); // same time to the last bit: only ValueChanged
+    ASSERT_EQ(rec.events.size(), 1u);
+    EXPECT_EQ(rec.events[0], ChangeRecorder::Event(Change::ValueChanged, 1));
+    EXPECT_EQ(p.vSetValue(9, std::nextafter(5.0f, 6.0f)), 2); // one float step away: a new key
+    EXPECT_EQ(p.keyframeCount(), 4u);
+
+    Parameter<int> flat(false, "F", 0, InterpolationStep, ExtrapolationHold);
+    ChangeRecorder flatRec(flat);
+    EXPECT_EQ(flat.vSetValue(6, 1.0f), -1);
+    EXPECT_EQ(flat.staticValue(), 6);
+    EXPECT_EQ(flat.keyframeCount(), 0u);
+    ASSERT_EQ(flatRec.events.size(), 1u);
+    EXPECT_EQ(flatRec.events[0], ChangeRecorder::Event(Change::ValueChanged, 0xFFFFFFFFu));
+}
+
+TEST(ParameterKeys, SetValueAndAddKeyframeInheritFromOppositeSides)
+{
+    Probe p(0.0, -100.0, 100.0, InterpolationLinear, ExtrapolationHold);
+    p.vSetValue(0.0, 0.0f);
+    p.vSetValue(10.0, 10.0f);
+    p.vSetValue(20.0, 20.0f);
+    p.vSetInterpolation(InterpolationStep, 0.0f);
+    p.vSetInterpolation(InterpolationBezier, 10.0f);
+    // vSetValue between keys 0 and 1 takes the kind of key 1's record.
+    int const set = p.vSetValue(5.0, 5.0f);
+    EXPECT_EQ(p.interpolation(static_cast<unsigned int>(set)), InterpolationBezier);
+    // iAddKeyframe between keys 2 (Bezier, at 10) and 3 (at 20) takes key 2's record: the split segment.
+    p.vSetInterpolation(InterpolationStep, 20.0f);
+    ChangeRecorder rec(p);
+    int const added = p.iAddKeyframe(15.0f);
+    EXPECT_EQ(added, 3);
+    EXPECT_EQ(p.interpolation(3u), InterpolationBezier);
+    ASSERT_EQ(rec.events.size(), 1u); // no ValueChanged from iAddKeyframe
+    EXPECT_EQ(rec.events[0], ChangeRecorder::Event(Change::KeyframeAdded, 3));
+
+    // The first key and keys at the ends inherit the default interpolation.
+    EXPECT_EQ(p.interpolation(p.iAddKeyframe(30.0f) + 0u), InterpolationLinear);
+    EXPECT_EQ(p.interpolation(p.iAddKeyframe(-5.0f) + 0u), InterpolationLinear);
+
+    rec.events.clear();
+    EXPECT_EQ(p.iAddKeyframe(15.0f), -1); // an existing time: nothing happens
+    EXPECT_TRUE(rec.events.empty());
+    Parameter<int> flat(false, "F");
+    EXPECT_EQ(flat.iAddKeyframe(1.0f), -1);
+}
+
+TEST(ParameterKeys, AddedKeyKeepsTheCurveWhereItWas)
+{
+    Probe p = linearCurve();
+    int const index = p.iAddKeyframe(5.0f);
+    EXPECT_EQ(p.keyframeValue(static_cast<unsigned int>(index)), 5.0);
+    EXPECT_EQ(p.value(5.0f, nullptr), 5.0);
+    EXPECT_EQ(p.value(7.5f, nullptr), 7.5);
+}
+
+TEST(ParameterKeys, AppendedKeyReinitialisesTheFormerLastRecordExceptWhileStreaming)
+{
+    Probe p(0.0, -100.0, 100.0, InterpolationBezier, ExtrapolationHold);
+    p.vSetValue(0.0, 0.0f);
+    EXPECT_EQ(p.record(0).dOutTime, 0.0);
+    p.vSetValue(10.0, 10.0f);
+    EXPECT_DOUBLE_EQ(p.record(0).dOutTime, 1.0);
+    EXPECT_DOUBLE_EQ(p.record(0).dOutValue, 1.0);
+    EXPECT_DOUBLE_EQ(p.record(0).dInTime, -1.0);
+    EXPECT_DOUBLE_EQ(p.record(0).dInValue, -1.0);
+    EXPECT_EQ(p.record(1).dOutTime, 0.0); // the new last record starts with zero handles
+
+    p.setStreamingIn(true);
+    p.vSetValue(30.0, 20.0f);
+    EXPECT_EQ(p.record(1).dOutTime, 0.0);
+    p.setStreamingIn(false);
+
+    // A key inserted before another takes a record spanning to it; the record before is left alone.
+    p.vSetValue(2.0, 5.0f);
+    EXPECT_DOUBLE_EQ(p.record(0).dOutTime, 1.0);
+    EXPECT_DOUBLE_EQ(p.record(1).dOutTime, 0.5);
+    EXPECT_DOUBLE_EQ(p.record(1).dOutValue, 0.8);
+}
+
+TEST(ParameterKeys, GettersOutOfRange)
+{
+    Probe p = linearCurve();
+    EXPECT_EQ(p.keyframeTime(7), 0.0f);
+    EXPECT_EQ(p.keyframeValue(7), 30.0);
+    EXPECT_EQ(p.interpolation(7u), InterpolationStep);
+    IType const data = p.interpolationData(7);
+    EXPECT_EQ(data.eType, InterpolationLinear);
+    EXPECT_EQ(data.dOutTime, 0.0);
+    EXPECT_TRUE(p.bKeyframeAt(10.0f));
+    EXPECT_FALSE(p.bKeyframeAt(10.5f));
+    // interpolation(float): key at t, else the record before the next later key, else the last.
+    p.vSetInterpolation(InterpolationStep, 10.0f);
+    EXPECT_EQ(p.interpolation(10.0f), InterpolationStep);
+    EXPECT_EQ(p.interpolation(15.0f), InterpolationStep);
+    EXPECT_EQ(p.interpolation(5.0f), InterpolationLinear);
+    EXPECT_EQ(p.interpolation(-5.0f), InterpolationLinear);
+
+    Parameter<int> flat(false, "F", 3, InterpolationLinear, ExtrapolationLinear);
+    EXPECT_EQ(flat.interpolation(1.0f), InterpolationStep);
+    EXPECT_EQ(flat.interpolationData(0).eType, InterpolationStep);
+    EXPECT_EQ(flat.keyframeValue(0), 3);
+    ChangeRecorder rec(flat);
+    flat.vSetExtrapolationBefore(ExtrapolationLinear);
+    flat.vSetInterpolationData(IType(), 0);
+    EXPECT_TRUE(rec.events.empty());
+    EXPECT_EQ(flat.extrapolationBefore(), ExtrapolationHold);
+}
+
+TEST(ParameterKeys, SearchesAndTheirTieRules)
+{
+    Probe p = linearCurve(); // keys at 0, 10, 20
+    float t = -1.0f;
+    unsigned int i = 99;
+    EXPECT_TRUE(p.bNearestKeyframeTime(5.0f, t));
+    EXPECT_EQ(t, 10.0f); // halfway: the later key
+    EXPECT_TRUE(p.bNearestKeyframeTime(4.9f, t));
+    EXPECT_EQ(t, 0.0f);
+    EXPECT_TRUE(p.bNearestKeyframeIndex(-3.0f, i));
+    EXPECT_EQ(i, 0u);
+    EXPECT_TRUE(p.bNearestKeyframeIndex(99.0f, i));
+    EXPECT_EQ(i, 2u);
+
+    EXPECT_FALSE(p.bPreviousKeyframe(0.0f, t));
+    EXPECT_TRUE(p.bPreviousKeyframe(10.0f, t));
+    EXPECT_EQ(t, 0.0f);
+    EXPECT_TRUE(p.bPreviousKeyframe(50.0f, t));
+    EXPECT_EQ(t, 20.0f);
+
+    EXPECT_TRUE(p.bNextKeyframe(10.0f, t));
+    EXPECT_EQ(t, 20.0f);
+    EXPECT_TRUE(p.bNextKeyframe(-1.0f, t));
+    EXPECT_EQ(t, 0.0f);
+    t = 42.0f;
+    EXPECT_FALSE(p.bNextKeyframe(20.0f, t));
+    EXPECT_FALSE(p.bNextKeyframe(21.0f, t));
+    EXPECT_EQ(t, 42.0f); // left alone
+
+    Parameter<int> empty(true, "E");
+    EXPECT_FALSE(empty.bNearestKeyframeTime(0.0f, t));
+    EXPECT_FALSE(empty.bPreviousKeyframe(0.0f, t));
+}
+
+TEST(ParameterKeys, DeletionAndReset)
+{
+    Probe p(4.0, -100.0, 100.0, InterpolationLinear, ExtrapolationHold);
+    p.vSetValue(8.0, 1.0f);
+    ChangeRecorder rec(p);
+    p.vDeleteKeyframe(2.0f); // no key there
+    EXPECT_TRUE(rec.events.empty());
+    p.vDeleteKeyframe(1.0f); // the only key: its value stays as the static value
+    EXPECT_EQ(p.keyframeCount(), 0u);
+    EXPECT_EQ(p.value(50.0f, nullptr), 8.0);
+    ASSERT_EQ(rec.events.size(), 1u);
+    EXPECT_EQ(rec.events[0], ChangeRecorder::Event(Change::KeyframeDeleted, 0));
+
+    p.vSetValue(1.0, 0.0f);
+    p.vSetValue(2.0, 5.0f);
+    p.vDeleteAllKeyframes(); // the older static value comes back
+    EXPECT_EQ(p.value(0.0f, nullptr), 8.0);
+    EXPECT_EQ(rec.events.back(), ChangeRecorder::Event(Change::AllKeyframesDeleted, 0));
+
+    p.vSetValue(1.0, 0.0f);
+    p.vSetValue(2.0, 5.0f);
+    rec.events.clear();
+    p.vReset(2.5f); // between keys: nothing at all
+    EXPECT_TRUE(rec.events.empty());
+    EXPECT_EQ(p.keyframeCount(), 2u);
+    p.vReset(5.0f); // at a key: deletes it, the default plays no part
+    EXPECT_EQ(p.keyframeCount(), 1u);
+    EXPECT_EQ(p.staticValue(), 8.0);
+    p.vDeleteAllKeyframes();
+    p.vReset(0.0f); // no keys: the default becomes the static value
+    EXPECT_EQ(p.staticValue(), 4.0);
+    EXPECT_EQ(rec.events.back(), ChangeRecorder::Event(Change::ParameterReset, 0));
+}
+
+TEST(ParameterKeys, MoveStayingAndCrossing)
+{
+    Probe p = linearCurve(); // 0:0, 10:10, 20:30
+    ChangeRecorder rec(p);
+    EXPECT_EQ(p.moveAndChangeKeyframe(5.0, 3.0f, 4.0f), -1);
+    // To exactly a neighbour's time: stays, two keys at one time.
+    EXPECT_EQ(p.moveAndChangeKeyframe(12.0, 10.0f, 20.0f), 1);
+    EXPECT_EQ(p.keyframeTime(1), 20.0f);
+    EXPECT_EQ(p.keyframeTime(2), 20.0f);
+    ASSERT_EQ(rec.events.size(), 1u);
+    EXPECT_EQ(rec.events[0], ChangeRecorder::Event(Change::KeyframeMoved, 1));
+    EXPECT_EQ(p.recordCount(), 3);
+
+    // One step beyond crosses: inner signals stay blocked, one record too many is left.
+    Probe q = linearCurve();
+    ChangeRecorder qrec(q);
+    EXPECT_EQ(q.moveAndChangeKeyframe(500.0, 10.0f, 25.0f), 2);
+    ASSERT_EQ(qrec.events.size(), 1u);
+    EXPECT_EQ(qrec.events[0].first, Change::KeyframeReordered);
+    ASSERT_EQ(qrec.lists.size(), 1u);
+    EXPECT_EQ(qrec.lists[0], (QList<unsigned int>{1u, 2u}));
+    EXPECT_EQ(q.keyframeCount(), 3u);
+    EXPECT_EQ(q.recordCount(), 4);
+    EXPECT_EQ(q.keyframeValue(2), 500.0); // stored through the clamping vSetValue... within limits
+    EXPECT_EQ(q.value(25.0f, nullptr), 500.0);
+    EXPECT_FALSE(q.signalsBlocked());
+
+    // Crossing onto a key that stands exactly at the target overwrites it.
+    Probe r = linearCurve();
+    EXPECT_EQ(r.moveAndChangeKeyframe(7.0, 0.0f, 20.0f), 1);
+    EXPECT_EQ(r.keyframeCount(), 2u);
+    EXPECT_EQ(r.keyframeValue(1), 7.0);
+
+    // A caller's own block survives the move.
+    Probe s = linearCurve();
+    s.blockSignals(true);
+    s.moveAndChangeKeyframe(1.0, 0.0f, 15.0f);
+    EXPECT_TRUE(s.signalsBlocked());
+}
+
+TEST(ParameterKeys, AssignmentAndCopyOfKeyframeData)
+{
+    Probe a = linearCurve();
+    Parameter<double> plain(false, "Plain", 3.0, InterpolationStep, ExtrapolationHold);
+    ChangeRecorder rec(plain);
+    Parameter<double> other(true, "Other", 1.0, InterpolationLinear, ExtrapolationLinear);
+    other.vSetValue(2.0, 1.0f);
+    plain.vCopyKeyframeDataFrom(&other);
+    EXPECT_TRUE(plain.isKeyframed());
+    EXPECT_EQ(plain.keyframeCount(), 1u);
+    EXPECT_EQ(plain.qstrScriptName(), "Plain"); // names stay
+    EXPECT_EQ(plain.defaultValue(), 3.0);
+    EXPECT_EQ(rec.events.back(), ChangeRecorder::Event(Change::ParameterReplaced, 0));
+
+    rec.events.clear();
+    Parameter<int> wrongType(true, "W");
+    plain.vCopyKeyframeDataFrom(&wrongType);
+    plain.vCopyKeyframeDataFrom(nullptr);
+    EXPECT_TRUE(rec.events.empty());
+
+    // A numeric parameter copies from a plain one of its type safely.
+    a.vCopyKeyframeDataFrom(&other);
+    EXPECT_EQ(a.keyframeCount(), 1u);
+    EXPECT_EQ(a.staticValue(), 1.0);
+
+    Parameter<double> assigned(false, "X");
+    assigned = other;
+    EXPECT_EQ(assigned.qstrScriptName(), "Other");
+    EXPECT_EQ(assigned.defaultValue(), 1.0);
+    EXPECT_EQ(assigned.keyframeCount(), 1u);
+}
