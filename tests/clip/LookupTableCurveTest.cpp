@@ -179,3 +179,27 @@ TEST(LookupTableGamma, GammaOneIsLinearAndOtherGammasFollowThePower)
     EXPECT_EQ(dummy, tf);
     EXPECT_FLOAT_EQ(tf[255], 1.0f);
 }
+
+TEST(LookupTableLog, DegenerateArgumentsAreSurvived)
+{
+    std::vector<unsigned short> table(1024, 7);
+    EXPECT_FALSE(gbCreate16BitLogLinLookup(33, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, table.data()));
+    EXPECT_FALSE(gbCreate16BitLogLinLookup(-1, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, table.data()));
+    EXPECT_FALSE(gbCreate16BitLogLinLookup(10, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, nullptr));
+    EXPECT_EQ(table[0], 7);
+    // Gamma 0, far offsets and a NaN soft clip give garbage entries, but stay inside the table.
+    EXPECT_TRUE(gbCreate16BitLogLinLookup(10, 0.0f, 685.0f, 95.0f, 0.0f, 10.0f, table.data()));
+    EXPECT_TRUE(gbCreate16BitLogLinLookup(10, 3e9f, 685.0f, 95.0f, 1.0f, 10.0f, table.data()));
+    EXPECT_TRUE(gbCreate16BitLogLinLookup(10, -3e9f, 685.0f, 95.0f, 1.0f, NAN, table.data()));
+    EXPECT_TRUE(gbCreate16BitLinLogLookup(10, 3e9f, 685.0f, 95.0f, 0.0f, 5.0f, table.data(), nullptr, nullptr,
+                                          nullptr, nullptr, nullptr, nullptr));
+    EXPECT_TRUE(gbCreate16BitGammaLookup(10, 0.0f, table.data(), nullptr, nullptr, nullptr, nullptr, nullptr,
+                                         nullptr));
+    EXPECT_TRUE(gbCreate16BitGammaLookup(0, 2.2f, table.data(), nullptr, nullptr, nullptr, nullptr, nullptr,
+                                         nullptr));
+    EXPECT_TRUE(gbCreate16BitLinPanalogLookup(0, table.data(), nullptr, nullptr, nullptr, nullptr, nullptr,
+                                              nullptr));
+    // Float input without a forward table cannot be built.
+    EXPECT_FALSE(gbCreate16BitGammaLookup(32, 2.2f, table.data(), nullptr, nullptr, nullptr, nullptr, nullptr,
+                                          nullptr));
+}
