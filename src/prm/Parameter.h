@@ -174,5 +174,6 @@ extern template class Parameter<TQ_REMOVESOURCE_MODE>;
 extern template class Parameter<TQ_ILLUMINATION_MODEL>;
 extern template class Parameter<TQ_FILL_ALGORITHM>;
 extern template class Parameter<TQ_LUMINANCE_MODEL>;
+extern template class Parameter<Gan_CameraType>;
 
 } // namespace Prm

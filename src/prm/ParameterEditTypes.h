@@ -22,7 +22,8 @@
     X(TQ_REMOVESOURCE_MODE)                                                                                 \
     X(TQ_ILLUMINATION_MODEL)                                                                                \
     X(TQ_FILL_ALGORITHM)                                                                                    \
-    X(TQ_LUMINANCE_MODEL)
+    X(TQ_LUMINANCE_MODEL)                                                                                   \
+    X(Gan_CameraType)
 
 /// Calls `X(T)` once per value type of `Prm::Parameter<T>`.
 #define TQ_FOR_EACH_EDIT_TYPE(X)                                                                            \

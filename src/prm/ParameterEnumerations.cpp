@@ -10,5 +10,6 @@ template class Parameter<TQ_REMOVESOURCE_MODE>;
 template class Parameter<TQ_ILLUMINATION_MODEL>;
 template class Parameter<TQ_FILL_ALGORITHM>;
 template class Parameter<TQ_LUMINANCE_MODEL>;
+template class Parameter<Gan_CameraType>;
 
 } // namespace Prm
