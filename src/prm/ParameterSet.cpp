@@ -99,10 +99,12 @@ bool ParameterSet::bStreamIn(QString const& line)
     QString const name = line.left(dot);
     QString const rest = line.mid(dot + 1);
     QVector<ParameterWithoutType*> named;
-    for (QPointer<ParameterWithoutType> const& parameter : parameters) {
-        if (parameter && parameter->qstrScriptName() == name)
-            named.append(parameter.data());
-    }
+    auto const nameOf = [this](int position) -> QString const* {
+        ParameterWithoutType const* parameter = parameters.at(position).data();
+        return parameter ? &parameter->qstrScriptName() : nullptr;
+    };
+    for (int position : lineRouter.positionsOf(name, parameters.size(), nameOf))
+        named.append(parameters.at(position).data());
     QVector<BasicParameter*> namedBasic;
     for (BasicParameter* parameter : basicParameters) {
         if (parameter && parameter->scriptName() == name)
