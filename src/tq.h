@@ -13,6 +13,11 @@
 #include "gandalf/gandalf.h"
 
 // --- prm
+#include "prm/CurveTypeNames.h"
+#include "prm/KeyframeDeclaration.h"
+#include "prm/ParameterTextDocument.h"
+#include "prm/StreamOperators.h"
+#include "prm/ValueText.h"
 
 // --- support
 #include "support/BlendMode.h"
