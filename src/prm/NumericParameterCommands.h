@@ -5,22 +5,14 @@
 #include "prm/MoveChangeKeyframeEdit.h"
 #include "prm/NumericParameter.h"
 #include "prm/ParameterValueEdits.h"
-#include "prm/ValueConversion.h"
 
 namespace Prm {
-
-/// `value` limited by the widened limits, then converted to `T`.
-template <class T>
-T tLimitedFromDouble(double value, T minimum, T maximum)
-{
-    return tFromDouble<T>(tClamp<double>(value, dToDouble<T>(minimum), dToDouble<T>(maximum)));
-}
 
 template <class T>
 Bsc::CompositeCommand& NumericParameter<T>::vSetDoubleValueCommand(double value, float time,
                                                                    Bsc::CompositeCommand& composite)
 {
-    T const newValue = tLimitedFromDouble<T>(value, this->tMinimum, this->tMaximum);
+    T const newValue = this->tLimitedDouble(value);
     composite.push_back(new ParameterValueEdit<T>(this, newValue, time));
     return composite;
 }
@@ -31,7 +23,7 @@ Bsc::CompositeCommand& NumericParameter<T>::moveKeyframeAsDoubleCommand(double v
 {
     // The one maker that reads old state now rather than at the edit's first run.
     T const oldValue = this->value(fromTime, nullptr);
-    T const newValue = tLimitedFromDouble<T>(value, this->tMinimum, this->tMaximum);
+    T const newValue = this->tLimitedDouble(value);
     composite.push_back(new MoveChangeKeyframeEdit<T>(this, fromTime, toTime, newValue, oldValue));
     return composite;
 }
