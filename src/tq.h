@@ -18,6 +18,16 @@
 #include "prm/ParameterTextDocument.h"
 #include "prm/StreamOperators.h"
 #include "prm/ValueText.h"
+#include "prm/ConstraintEdits.h"
+#include "prm/MoveChangeKeyframeEdit.h"
+#include "prm/MovedParameter.h"
+#include "prm/ParameterAddConstrainedParameterEdit.h"
+#include "prm/ParameterCurveEdits.h"
+#include "prm/ParameterEdit.h"
+#include "prm/ParameterKeyEdits.h"
+#include "prm/ParameterValueEdits.h"
+#include "prm/StaticParameter.h"
+#include "prm/VirtualParameter.h"
 
 // --- support
 #include "support/BlendMode.h"
