@@ -68,8 +68,10 @@ T NumericParameter<T>::InterpolateKeyForwards(unsigned int index, float time, Ca
     Interpolation const kind = this->interpolationRecords[int(index)].eType;
     if (kind <= InterpolationBezier)
         return Interpolate<T>(this->keyframes, this->interpolationRecords, kind, time, int(index), cache);
-    ParamInterpolator<T> const* method = customInterpolationMethod(kind);
-    return method ? method->interpolate(*this, index, time, cache) : T();
+    // Without its method a custom kind reads as Interpolate reads it (the first as step, others zero).
+    if (ParamInterpolator<T> const* method = customInterpolationMethod(kind))
+        return method->interpolate(*this, index, time, cache);
+    return Interpolate<T>(this->keyframes, this->interpolationRecords, kind, time, int(index), cache);
 }
 
 template <class T>
@@ -78,8 +80,10 @@ T NumericParameter<T>::ExtrapolateKey(bool bBefore, float time, Cache* cache) co
     Extrapolation const rule = bBefore ? this->eExtrapolationBefore : this->eExtrapolationAfter;
     if (rule <= ExtrapolationLinear)
         return Extrapolate<T>(this->keyframes, this->interpolationRecords, rule, time, bBefore, cache);
-    ParamExtrapolator<T> const* method = customExtrapolationMethod(rule);
-    return method ? method->extrapolate(*this, bBefore, time, cache) : T();
+    // Without its method a custom rule reads as Extrapolate reads it (the first as hold, others zero).
+    if (ParamExtrapolator<T> const* method = customExtrapolationMethod(rule))
+        return method->extrapolate(*this, bBefore, time, cache);
+    return Extrapolate<T>(this->keyframes, this->interpolationRecords, rule, time, bBefore, cache);
 }
 
 template <class T>

@@ -230,6 +230,13 @@ TEST(Curve, CustomMethodsAndTheirLists)
     p.vSetExtrapolationBefore(Extrapolation(9)); // no such method: the zero value
     EXPECT_EQ(p.value(-2.0f, nullptr), 0.0);
 
+    // A custom kind without its method reads as the engine's own curve reads it.
+    p.vSetValue(3.0, 10.0f);
+    p.vSetInterpolation(InterpolationCustomFirst, 0.0f);
+    EXPECT_EQ(p.value(5.0f, nullptr), 1.0);
+    p.vSetInterpolation(Interpolation(5), 0.0f);
+    EXPECT_EQ(p.value(5.0f, nullptr), 0.0);
+
     CustomParameter copy(p);
     NumericParameter<double> const& base = copy;
     NumericParameter<double> plainCopy(base);
