@@ -148,6 +148,17 @@ TEST(EditKey, ResetEditNeverChangesTheValue)
     flat.vSetValue(0.25, 0.0f);
     noKeys.undoIt();
     EXPECT_EQ(flat.staticValue(), 0.5);
+
+    // Keyframed without keys: the undo writes the old value at time 0, which makes a key there.
+    Curve unkeyed(true, "Unkeyed", 0.5, -1.0, 1.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
+    Bsc::CompositeCommand unkeyedReset;
+    unkeyed.vResetCommand(2.0f, unkeyedReset);
+    unkeyedReset.doIt();
+    EXPECT_EQ(unkeyed.keyframeCount(), 0u);
+    unkeyedReset.undoIt();
+    ASSERT_EQ(unkeyed.keyframeCount(), 1u);
+    EXPECT_EQ(unkeyed.keyframeTime(0), 0.0f);
+    EXPECT_EQ(unkeyed.keyframeValue(0), 0.5);
 }
 
 TEST(EditKey, MoveIsOneShotAndReadsTheOldValueWhenMade)

@@ -86,27 +86,6 @@ TEST(StaticParameter, ReadsTextWithItsQuotingRules)
     EXPECT_EQ(quoted, "\"y\"");
 }
 
-TEST(StaticParameter, RoundTripsThroughItsOwnLine)
-{
-    float scale = 1.25f;
-    unsigned char byte = 7;
-    bool flag = false;
-    Prm::VirtualParameter<float> scaleParameter("Scale", &scale);
-    Prm::VirtualParameter<unsigned char> byteParameter("Byte", &byte);
-    Prm::VirtualParameter<bool> flagParameter("Flag", &flag);
-
-    float scaleRead = 0.0f;
-    unsigned char byteRead = 0;
-    bool flagRead = true;
-    Prm::VirtualParameter<float>("Scale", &scaleRead).bStreamIn(written<float>(scaleParameter, "", false).trimmed());
-    Prm::VirtualParameter<unsigned char>("Byte", &byteRead)
-        .bStreamIn(written<unsigned char>(byteParameter, "", false).trimmed());
-    Prm::VirtualParameter<bool>("Flag", &flagRead).bStreamIn(written<bool>(flagParameter, "", false).trimmed());
-    EXPECT_EQ(scaleRead, 1.25f);
-    EXPECT_EQ(byteRead, 7);
-    EXPECT_FALSE(flagRead);
-}
-
 TEST(StaticParameter, OnlyReadingALineRaisesValueChanged)
 {
     unsigned int frames = 10;
