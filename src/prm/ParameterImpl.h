@@ -145,12 +145,13 @@ T Parameter<T>::value(float time, Cache* cache) const
         if (low + 1 == high)
             return InterpolateKeyForwards(static_cast<unsigned int>(low), time, cache);
         int const mid = (low + high) / 2;
-        if (keys[mid].fTime == time)
+        float const fMidTime = keys[mid].fTime;
+        if (fMidTime == time)
             return keys[mid].tValue;
-        if (keys[mid].fTime > time)
-            high = mid;
-        else
-            low = mid;
+        // Arithmetic rather than a branch: the direction is random for random reads.
+        int const iLeft = int(fMidTime > time);
+        high -= (high - mid) * iLeft;
+        low += (mid - low) * (1 - iLeft);
     }
     // Only a NaN time gets here, with one key.
     return keys[low].tValue;
