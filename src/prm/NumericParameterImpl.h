@@ -63,7 +63,7 @@ void NumericParameter<T>::vCopyKeyframeDataFrom(ParameterWithoutType const* sour
 template <class T>
 T NumericParameter<T>::InterpolateKeyForwards(unsigned int index, float time, Cache* cache) const
 {
-    if (int(index) >= this->interpolationRecords.size())
+    if (index >= static_cast<unsigned int>(this->interpolationRecords.size()))
         return T();
     Interpolation const kind = this->interpolationRecords[int(index)].eType;
     if (kind <= InterpolationBezier)

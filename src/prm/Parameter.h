@@ -128,6 +128,8 @@ protected:
     int iKeyIndex(float time) const;
     /// Index of the first key later than `time`, or -1.
     int iNextKeyIndex(float time) const;
+    /// Kind of record `index`; the default interpolation when the record is missing.
+    Interpolation eRecordKind(int index) const;
     /// Inserts a key before `next` (-1: at the end) with a record of `kind`; returns its index.
     int iInsertKey(KeyframeData<T> const& key, int next, Interpolation kind);
     /// The master as this type, or null (none, gone, or of another type).

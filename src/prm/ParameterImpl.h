@@ -158,6 +158,12 @@ T Parameter<T>::value(float time, Cache* cache) const
 }
 
 template <class T>
+Interpolation Parameter<T>::eRecordKind(int index) const
+{
+    return index < interpolationRecords.size() ? interpolationRecords[index].eType : eDefaultInterpolation;
+}
+
+template <class T>
 int Parameter<T>::iInsertKey(KeyframeData<T> const& key, int next, Interpolation kind)
 {
     IType record;
@@ -166,7 +172,7 @@ int Parameter<T>::iInsertKey(KeyframeData<T> const& key, int next, Interpolation
     if (next != -1) {
         record = intitialiseInterpolation(key, keyframes[next], kind);
         keyframes.insert(next, key);
-        interpolationRecords.insert(next, record);
+        interpolationRecords.insert(qMin(next, interpolationRecords.size()), record);
         return next;
     }
     if (n > 0 && !bStreamingIn && n - 1 < interpolationRecords.size()) {
@@ -194,7 +200,7 @@ int Parameter<T>::vSetValue(T const& newValue, float time)
     }
     int const next = iNextKeyIndex(time);
     // A set key takes the kind of the segment it will start, unlike iAddKeyframe.
-    Interpolation const kind = next == -1 ? eDefaultInterpolation : interpolationRecords[next].eType;
+    Interpolation const kind = next == -1 ? eDefaultInterpolation : eRecordKind(next);
     index = iInsertKey(KeyframeData<T>{time, newValue}, next, kind);
     vRaise(ParameterChange::KeyframeAdded, static_cast<unsigned int>(index));
     vRaise(ParameterChange::ValueChanged, static_cast<unsigned int>(index));
@@ -209,7 +215,7 @@ int Parameter<T>::iAddKeyframe(float time)
     int const next = iNextKeyIndex(time);
     T const current = value(time, nullptr);
     // An added key takes the kind of the segment it splits.
-    Interpolation const kind = next <= 0 ? eDefaultInterpolation : interpolationRecords[next - 1].eType;
+    Interpolation const kind = next <= 0 ? eDefaultInterpolation : eRecordKind(next - 1);
     int const index = iInsertKey(KeyframeData<T>{time, current}, next, kind);
     vRaise(ParameterChange::KeyframeAdded, static_cast<unsigned int>(index));
     return index;

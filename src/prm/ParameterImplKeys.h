@@ -315,7 +315,7 @@ bool Parameter<T>::setMasterParameter(Parameter<T>* master, QString const& name)
 template <class T>
 T Parameter<T>::InterpolateKeyForwards(unsigned int index, float, Cache*) const
 {
-    return int(index) < keyframes.size() ? keyframes[int(index)].tValue : T();
+    return index < static_cast<unsigned int>(keyframes.size()) ? keyframes[int(index)].tValue : T();
 }
 
 template <class T>
