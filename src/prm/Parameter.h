@@ -128,6 +128,10 @@ protected:
     int iKeyIndex(float time) const;
     /// Index of the first key later than `time`, or -1.
     int iNextKeyIndex(float time) const;
+    /// Index of the last key not later than `time`, by a search of fixed length (0 for a NaN time).
+    int iSegmentIndex(float time) const;
+    /// The halving search of `value` between the first and the last key.
+    T tSearchKeys(float time, Cache* cache) const;
     /// Kind of record `index`; the default interpolation when the record is missing.
     Interpolation eRecordKind(int index) const;
     /// Inserts a key before `next` (-1: at the end) with a record of `kind`; returns its index.

@@ -139,19 +139,44 @@ T Parameter<T>::value(float time, Cache* cache) const
         return keys[0].tValue;
     if (n >= 2 && time == keys[n - 1].fTime)
         return keys[n - 1].tValue;
+    // A search of fixed length finds the segment; strictly inside it, it is the segment the halving
+    // search below would end on. A time on a key (where several keys may share that time) or a NaN time
+    // takes the halving search itself, which decides which key's value is returned.
+    int const segment = iSegmentIndex(time);
+    if (keys[segment].fTime != time && time == time)
+        return InterpolateKeyForwards(static_cast<unsigned int>(segment), time, cache);
+    return tSearchKeys(time, cache);
+}
+
+template <class T>
+int Parameter<T>::iSegmentIndex(float time) const
+{
+    KeyframeData<T> const* base = keyframes.constData();
+    int length = keyframes.size();
+    while (length > 1) {
+        int const half = length / 2;
+        base += half * int(base[half].fTime <= time);
+        length -= half;
+    }
+    return int(base - keyframes.constData());
+}
+
+template <class T>
+T Parameter<T>::tSearchKeys(float time, Cache* cache) const
+{
+    KeyframeData<T> const* keys = keyframes.constData();
     int low = 0;
-    int high = n - 1;
+    int high = keyframes.size() - 1;
     while (low != high) {
         if (low + 1 == high)
             return InterpolateKeyForwards(static_cast<unsigned int>(low), time, cache);
         int const mid = (low + high) / 2;
-        float const fMidTime = keys[mid].fTime;
-        if (fMidTime == time)
+        if (keys[mid].fTime == time)
             return keys[mid].tValue;
-        // Arithmetic rather than a branch: the direction is random for random reads.
-        int const iLeft = int(fMidTime > time);
-        high -= (high - mid) * iLeft;
-        low += (mid - low) * (1 - iLeft);
+        if (keys[mid].fTime > time)
+            high = mid;
+        else
+            low = mid;
     }
     // Only a NaN time gets here, with one key.
     return keys[low].tValue;

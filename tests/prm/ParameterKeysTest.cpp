@@ -310,6 +310,23 @@ TEST(ParameterKeys, MoveStayingAndCrossing)
     EXPECT_TRUE(s.signalsBlocked());
 }
 
+TEST(ParameterKeys, ReadsAtKeysReturnStoredValuesEvenWhereKeysShareATime)
+{
+    Probe p(0.0, -1000.0, 1000.0, InterpolationLinear, ExtrapolationHold);
+    p.vSetValue(1.0, 0.0f);
+    p.vSetValue(2.0, 10.0f);
+    p.vSetValue(3.0, 20.0f);
+    p.vSetValue(4.0, 25.0f);
+    p.vSetValue(5.0, 30.0f);
+    EXPECT_EQ(p.value(10.0f, nullptr), 2.0);
+    EXPECT_DOUBLE_EQ(p.value(15.0f, nullptr), 2.5);
+    EXPECT_DOUBLE_EQ(p.value(27.5f, nullptr), 4.5);
+    // Two keys at 20: the halving search meets key 2 first.
+    ASSERT_EQ(p.moveAndChangeKeyframe(9.0, 25.0f, 20.0f), 3);
+    EXPECT_EQ(p.value(20.0f, nullptr), 3.0);
+    EXPECT_DOUBLE_EQ(p.value(25.0f, nullptr), 9.0 + (5.0 - 9.0) / 2.0);
+}
+
 TEST(ParameterKeys, AssignmentAndCopyOfKeyframeData)
 {
     Probe a = linearCurve();
