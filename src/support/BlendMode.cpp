@@ -39,6 +39,9 @@ BlendMode* BlendMode::fromID(AEBlendModeID eId)
 
 void BlendMode::registerBlendMode(boost::shared_ptr<BlendMode> mode)
 {
+    // A null mode has no id to file it under, and would make fromID hand out null.
+    if (!mode)
+        return;
     AEBlendModeID const eId = mode->eId;
     getMapById().insert(eId, std::move(mode));
 }

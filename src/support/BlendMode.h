@@ -31,7 +31,7 @@ public:
     /// The registered mode with that id; an unknown id silently gives the mode with the lowest id.
     /// Not owned: valid while its entry stays in the registry. Null only while the registry is empty.
     static BlendMode* fromID(AEBlendModeID eId);
-    /// Enters `mode` under its eId, replacing any mode already there.
+    /// Enters `mode` under its eId, replacing any mode already there. A null `mode` is ignored.
     static void registerBlendMode(boost::shared_ptr<BlendMode> mode);
 
     AEBlendModeID const eId;

@@ -71,6 +71,9 @@ TEST(BlendMode, RegisteringUnderATakenIdReplacesTheEntry)
     EXPECT_EQ(BlendMode::getBlendModeCount(), 4);
     EXPECT_EQ(BlendMode::getConcatenatedNames(), "Add|Subtract|Multiply|Half");
 
+    BlendMode::registerBlendMode(boost::shared_ptr<BlendMode>());
+    EXPECT_EQ(BlendMode::getBlendModeCount(), 4);
+
     BlendMode::registerBlendMode(boost::shared_ptr<BlendMode>(new HalfBlendMode(AE_BLEND_MODE_ADD)));
     EXPECT_EQ(BlendMode::getBlendModeCount(), 4);
     EXPECT_EQ(BlendMode::getConcatenatedNames(), "Half|Subtract|Multiply|Half");
