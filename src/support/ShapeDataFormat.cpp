@@ -18,7 +18,7 @@ TQ_ShapeDataFormat::Map& TQ_ShapeDataFormat::_formatsByName()
     return formats;
 }
 
-TQ_ShapeDataFormat::Map const& TQ_ShapeDataFormat::MAP_ALL()
+TQ_ShapeDataFormat::Map& TQ_ShapeDataFormat::MAP_ALL()
 {
     return _formatsByName();
 }

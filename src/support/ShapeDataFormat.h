@@ -32,8 +32,11 @@ public:
     static TQ_ShapeDataFormat const& COMBUSTION_GMASK_SCRIPT();
     static TQ_ShapeDataFormat const& SHAKE_ROTOSHAPE_SCRIPT();
 
-    /// The formats built so far, in label (QString) order. Complete only once all ten were asked for.
-    static Map const& MAP_ALL();
+    /// The registry itself, created empty on first use; the library's own access to it.
+    static Map& _formatsByName();
+    /// The same registry for callers: the formats built so far, in label (QString) order. Complete only
+    /// once all ten were asked for.
+    static Map& MAP_ALL();
     /// A copy of the format with that label; an unknown label silently gives SHAKE_SSF_SCRIPT(), which
     /// is built (and so registered) if it was not yet.
     static TQ_ShapeDataFormat byName(QString const& fileTypeFilter);
@@ -46,8 +49,4 @@ public:
 
     /// Number of formats constructed so far (copies excluded); only grows.
     static int enumCount;
-
-private:
-    /// The registry, created empty on first use.
-    static Map& _formatsByName();
 };

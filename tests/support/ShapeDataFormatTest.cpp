@@ -24,7 +24,8 @@ void expectFormat(TQ_ShapeDataFormat const& format, char const* filter, char con
 // One test on purpose: the registry only fills, so its steps depend on what was built before them.
 TEST(ShapeDataFormat, RegistryFillsLazilyAndListsInLabelOrder)
 {
-    TQ_ShapeDataFormat::Map const& all = TQ_ShapeDataFormat::MAP_ALL();
+    TQ_ShapeDataFormat::Map& all = TQ_ShapeDataFormat::MAP_ALL();
+    EXPECT_EQ(&all, &TQ_ShapeDataFormat::_formatsByName());
     ASSERT_EQ(all.count(kCombustion), 0u) << "nothing else in this program may build the formats";
 
     // Before its function runs, a label is unknown and falls back to Shake Rotoshape, which that builds.
