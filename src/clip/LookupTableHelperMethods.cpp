@@ -111,12 +111,16 @@ bool bGamma(int bits, float gamma, T* table, Segments const& segments, float con
 
 bool bFloatGamma(int bits, float gamma, float* table)
 {
+    // Entry 0 is written before float input is refused.
+    if (bits == 32) {
+        if (table)
+            table[0] = 0.0f;
+        return bFailForFloatInput(683);
+    }
     Geometry const geo = geometry(bits);
     if (!geo.bValid || !table)
         return false;
     table[0] = 0.0f;
-    if (bits == 32)
-        return bFailForFloatInput(683);
     double const g = 1.0f / gamma;
     std::int64_t const n = geo.maxIndex;
     double const s = 1 / std::pow(static_cast<float>(n), g);

@@ -16,8 +16,9 @@
 /// Failure: every builder returns true when it wrote its table. The float-output linear-to-log,
 /// linear-to-Panalog and gamma builders cannot build for `bits` 32: they then leave exactly one entry on
 /// the calling thread's Gandalf error trace (see gandalf/Error.h) and return false, with the table
-/// unwritten except that the gamma builders have set entry 0 to 0. A null table or forward table where
-/// one is needed, or `bits` outside 0 to 32, gives false with nothing written and no trace entry.
+/// unwritten except that the gamma builders have set entry 0 to 0 (when the table is not null). Otherwise
+/// a null table or forward table where one is needed, or `bits` outside 0 to 32, gives false with nothing
+/// written and no trace entry.
 /// `gamma` is not validated: 0 makes the divisions yield infinities and the tables garbage.
 
 /// Log to linear. `offset` is the code value of entry 0; `refWhite` and `refBlack` are code values

@@ -141,14 +141,15 @@ template <typename T>
 bool bLinearToLog(int bits, float offset, float refWhite, float refBlack, float gamma, float softClip,
                   T* table, Segments const& segments, float const* forward)
 {
+    // The float output cannot take float input; it reports that without touching the table.
+    if (std::is_same_v<T, float> && bits == 32)
+        return bFailForFloatInput(474);
     Geometry const geo = geometry(bits);
     if (!geo.bValid || !table)
         return false;
     constexpr float codeScale = OutputTraits<T>::codeScale;
     if (bits == 32) {
-        if constexpr (std::is_same_v<T, float>) {
-            return bFailForFloatInput(474);
-        } else {
+        if constexpr (!std::is_same_v<T, float>) {
             if (!forward || !segments.bComplete())
                 return false;
             LinearToLog const curve(1.0, offset, codeScale, refWhite, refBlack, gamma, softClip);

@@ -84,14 +84,15 @@ template <typename T> T tLinearToPanalogEntry(Panalog const& curve, double linea
 template <typename T>
 bool bLinearToPanalog(int bits, T* table, Segments const& segments, float const* forward)
 {
+    // The float output cannot take float input; it reports that without touching the table.
+    if (std::is_same_v<T, float> && bits == 32)
+        return bFailForFloatInput(159);
     Geometry const geo = geometry(bits);
     if (!geo.bValid || !table)
         return false;
     Panalog const curve;
     if (bits == 32) {
-        if constexpr (std::is_same_v<T, float>) {
-            return bFailForFloatInput(159);
-        } else {
+        if constexpr (!std::is_same_v<T, float>) {
             if (!forward || !segments.bComplete())
                 return false;
             // For float input the curve is neither rounded nor limited.

@@ -154,5 +154,14 @@ TEST(LookupTableFloatInput, FloatOutputMembersFailWithOneTraceEntry)
         for (float u : unused)
             EXPECT_EQ(u, 0.0f);
     }
+    // The refusal does not depend on the table: a null one is reported the same way.
+    EXPECT_FALSE(gbCreate32BitFloatLinLogLookup(32, 0, 685, 95, 1, 0, nullptr, nullptr, nullptr, nullptr,
+                                                nullptr, nullptr, nullptr));
+    vExpectOneEntry(474);
+    EXPECT_FALSE(gbCreate32BitFloatLinPanalogLookup(32, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                                    nullptr));
+    vExpectOneEntry(159);
+    EXPECT_FALSE(gbCreate32BitFloatGammaLookup(32, 2.2f, nullptr));
+    vExpectOneEntry(683);
     gan_err_flush_trace();
 }
