@@ -95,16 +95,17 @@ bool bLinearToPanalog(int bits, T* table, Segments const& segments, float const*
         if constexpr (!std::is_same_v<T, float>) {
             if (!forward || !segments.bComplete())
                 return false;
-            // For float input the curve is neither rounded nor limited.
+            // For float input the curve is neither rounded nor limited, and x * 6 stays single precision.
             vFillFromForwardSteps(table, forward, segments, [&](float x) {
-                return tTruncated<T>(curve.dCode(double(x) * 6) * OutputTraits<T>::codeScale);
+                return tTruncated<T>(curve.dCode(x * 6.0f) * OutputTraits<T>::codeScale);
             });
             return true;
         }
     }
     float const step = 6.0f / static_cast<float>(geo.maxIndex);
+    // The input is index times step in single precision, as saved tables were built.
     for (std::int64_t i = 0; i <= geo.maxIndex; ++i)
-        table[i] = tLinearToPanalogEntry<T>(curve, double(i) * step);
+        table[i] = tLinearToPanalogEntry<T>(curve, static_cast<float>(i) * step);
     return true;
 }
 

@@ -124,6 +124,12 @@ TEST(LookupTablePanalog, LimitsOfTheIntegerTables)
                                               nullptr));
     EXPECT_EQ(toLog[0], 64 * 64);
     EXPECT_EQ(*std::max_element(toLog.begin(), toLog.end()), 65216);
+    // The input is index times a single-precision step, multiplied in single precision.
+    float const step = 6.0f / 65535;
+    for (int i : {13636, 15989, 30239}) {
+        double const code = std::log10(p * ((float(i) * step + k) / (k + 6))) / 2.15 * 955 + 64;
+        EXPECT_EQ(toLog[i], std::trunc(code * 64 + 0.5)) << i;
+    }
     EXPECT_TRUE(bNonDecreasing(toLog));
     std::vector<unsigned char> toLog8(256);
     ASSERT_TRUE(gbCreate8BitLinPanalogLookup(8, toLog8.data(), nullptr, nullptr, nullptr, nullptr, nullptr,

@@ -101,7 +101,7 @@ TEST(LookupTableFloatInput, PanalogTableLooksUpThroughItsFiveFloats)
     double const p = std::pow(10.0, 2.15);
     double const k = 6 / (p - 1);
     vExpectLookups(table, s, [&](float x) {
-        return std::trunc((std::log10(p * ((x * 6.0 + k) / (k + 6))) / 2.15 * 955 + 64) * 0.25);
+        return std::trunc((std::log10(p * ((x * 6.0f + k) / (k + 6))) / 2.15 * 955 + 64) * 0.25);
     });
 }
 
