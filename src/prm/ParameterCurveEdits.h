@@ -36,11 +36,12 @@ protected:
     Parameter<T>* parameter;
 };
 
-/// Sets the rule before the first key (made by `vSetExtrapolationBeforeCommand`).
-template <class T>
-class ParameterExtrapolationBeforeEdit : public ParameterEdit {
+/// Sets the rule at one end of the curve: before the first key when `bBefore`, else after the last. The
+/// two ends share this logic; the classes below name them.
+template <class T, bool bBefore>
+class ParameterExtrapolationEdit : public ParameterEdit {
 public:
-    ParameterExtrapolationBeforeEdit(Parameter<T>* parameter, Extrapolation newExtrapolation);
+    ParameterExtrapolationEdit(Parameter<T>* parameter, Extrapolation newExtrapolation);
     void doIt() override;
     void undoIt() override;
 
@@ -48,20 +49,24 @@ protected:
     Extrapolation eOldExtrapolation;
     Extrapolation eNewExtrapolation;
     Parameter<T>* parameter;
+
+private:
+    Extrapolation eCurrentExtrapolation() const;
+    void vApply(Extrapolation extrapolation);
+};
+
+/// Sets the rule before the first key (made by `vSetExtrapolationBeforeCommand`).
+template <class T>
+class ParameterExtrapolationBeforeEdit : public ParameterExtrapolationEdit<T, true> {
+public:
+    using ParameterExtrapolationEdit<T, true>::ParameterExtrapolationEdit;
 };
 
 /// Sets the rule after the last key (made by `vSetExtrapolationAfterCommand`).
 template <class T>
-class ParameterExtrapolationAfterEdit : public ParameterEdit {
+class ParameterExtrapolationAfterEdit : public ParameterExtrapolationEdit<T, false> {
 public:
-    ParameterExtrapolationAfterEdit(Parameter<T>* parameter, Extrapolation newExtrapolation);
-    void doIt() override;
-    void undoIt() override;
-
-protected:
-    Extrapolation eOldExtrapolation;
-    Extrapolation eNewExtrapolation;
-    Parameter<T>* parameter;
+    using ParameterExtrapolationEdit<T, false>::ParameterExtrapolationEdit;
 };
 
 template <class T>
@@ -111,57 +116,50 @@ void ParameterInterpolationDataEdit<T>::undoIt()
     parameter->vSetInterpolationData(tOldData, uiIndex);
 }
 
-template <class T>
-ParameterExtrapolationBeforeEdit<T>::ParameterExtrapolationBeforeEdit(Parameter<T>* parameter,
-                                                                      Extrapolation newExtrapolation)
+template <class T, bool bBefore>
+ParameterExtrapolationEdit<T, bBefore>::ParameterExtrapolationEdit(Parameter<T>* parameter,
+                                                                   Extrapolation newExtrapolation)
     : ParameterEdit(parameter), eOldExtrapolation(newExtrapolation), eNewExtrapolation(newExtrapolation),
       parameter(parameter)
 {
 }
 
-template <class T>
-void ParameterExtrapolationBeforeEdit<T>::doIt()
+template <class T, bool bBefore>
+void ParameterExtrapolationEdit<T, bBefore>::doIt()
 {
     if (!bDone) {
-        eOldExtrapolation = parameter->extrapolationBefore();
+        eOldExtrapolation = eCurrentExtrapolation();
         bDone = true;
     }
-    parameter->vSetExtrapolationBefore(eNewExtrapolation);
+    vApply(eNewExtrapolation);
 }
 
-template <class T>
-void ParameterExtrapolationBeforeEdit<T>::undoIt()
+template <class T, bool bBefore>
+void ParameterExtrapolationEdit<T, bBefore>::undoIt()
 {
-    parameter->vSetExtrapolationBefore(eOldExtrapolation);
+    vApply(eOldExtrapolation);
 }
 
-template <class T>
-ParameterExtrapolationAfterEdit<T>::ParameterExtrapolationAfterEdit(Parameter<T>* parameter,
-                                                                    Extrapolation newExtrapolation)
-    : ParameterEdit(parameter), eOldExtrapolation(newExtrapolation), eNewExtrapolation(newExtrapolation),
-      parameter(parameter)
+template <class T, bool bBefore>
+Extrapolation ParameterExtrapolationEdit<T, bBefore>::eCurrentExtrapolation() const
 {
+    return bBefore ? parameter->extrapolationBefore() : parameter->extrapolationAfter();
 }
 
-template <class T>
-void ParameterExtrapolationAfterEdit<T>::doIt()
+template <class T, bool bBefore>
+void ParameterExtrapolationEdit<T, bBefore>::vApply(Extrapolation extrapolation)
 {
-    if (!bDone) {
-        eOldExtrapolation = parameter->extrapolationAfter();
-        bDone = true;
-    }
-    parameter->vSetExtrapolationAfter(eNewExtrapolation);
-}
-
-template <class T>
-void ParameterExtrapolationAfterEdit<T>::undoIt()
-{
-    parameter->vSetExtrapolationAfter(eOldExtrapolation);
+    if (bBefore)
+        parameter->vSetExtrapolationBefore(extrapolation);
+    else
+        parameter->vSetExtrapolationAfter(extrapolation);
 }
 
 #define TQ_EXTERN_PARAMETER_CURVE_EDITS(T) \
     extern template class ParameterInterpolationEdit<T>; \
     extern template class ParameterInterpolationDataEdit<T>; \
+    extern template class ParameterExtrapolationEdit<T, true>; \
+    extern template class ParameterExtrapolationEdit<T, false>; \
     extern template class ParameterExtrapolationBeforeEdit<T>; \
     extern template class ParameterExtrapolationAfterEdit<T>;
 TQ_FOR_EACH_EDIT_TYPE(TQ_EXTERN_PARAMETER_CURVE_EDITS)

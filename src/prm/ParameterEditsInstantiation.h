@@ -12,6 +12,8 @@
     template class Prm::ParameterDefaultValueEdit<T>;                                                       \
     template class Prm::ParameterInterpolationEdit<T>;                                                      \
     template class Prm::ParameterInterpolationDataEdit<T>;                                                  \
+    template class Prm::ParameterExtrapolationEdit<T, true>;                                                \
+    template class Prm::ParameterExtrapolationEdit<T, false>;                                               \
     template class Prm::ParameterExtrapolationBeforeEdit<T>;                                                \
     template class Prm::ParameterExtrapolationAfterEdit<T>;                                                 \
     template class Prm::ParameterAddKeyEdit<T>;                                                             \

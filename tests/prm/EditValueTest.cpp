@@ -129,7 +129,8 @@ TEST(EditValue, InterpolationAndExtrapolationEditsUndo)
     bezier.dOutValue = 4.0;
     parameter.vSetInterpolationDataCommand(bezier, 0, composite);
     parameter.vSetExtrapolationBeforeCommand(Prm::ExtrapolationLinear, composite);
-    parameter.vSetExtrapolationAfterCommand(Prm::ExtrapolationLinear, composite);
+    // A rule of its own per end, so that an edit of the wrong end shows.
+    parameter.vSetExtrapolationAfterCommand(Prm::ExtrapolationCustomFirst, composite);
     parameter.vSetInterpolationCommand(Prm::InterpolationStep, 15.0f, composite); // no key there
     EXPECT_EQ(composite.size(), 5u);
 
@@ -139,7 +140,7 @@ TEST(EditValue, InterpolationAndExtrapolationEditsUndo)
     EXPECT_EQ(parameter.interpolationData(0).eType, Prm::InterpolationBezier);
     EXPECT_EQ(parameter.interpolationData(0).dOutValue, 4.0);
     EXPECT_EQ(parameter.extrapolationBefore(), Prm::ExtrapolationLinear);
-    EXPECT_EQ(parameter.extrapolationAfter(), Prm::ExtrapolationLinear);
+    EXPECT_EQ(parameter.extrapolationAfter(), Prm::ExtrapolationCustomFirst);
 
     composite.undoIt();
     EXPECT_EQ(parameter.interpolation(1u), Prm::InterpolationLinear);
@@ -151,7 +152,8 @@ TEST(EditValue, InterpolationAndExtrapolationEditsUndo)
 
     composite.doIt();
     EXPECT_EQ(parameter.interpolationData(0).dOutTime, 2.0);
-    EXPECT_EQ(parameter.extrapolationAfter(), Prm::ExtrapolationLinear);
+    EXPECT_EQ(parameter.extrapolationBefore(), Prm::ExtrapolationLinear);
+    EXPECT_EQ(parameter.extrapolationAfter(), Prm::ExtrapolationCustomFirst);
 }
 
 TEST(EditValue, TextAndEnumerationParametersUndoAlike)
