@@ -24,7 +24,7 @@ public:
     QString scriptName() const override;
     BasicParameter* targetParameter() const;
 
-private:
+protected:
     QString qstrName;
     QPointer<BasicParameter> target;
 };
