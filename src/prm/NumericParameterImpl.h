@@ -116,19 +116,18 @@ bool NumericParameter<T>::supportsExtrapolationFromNoKeys() const
 template <class T>
 ParamInterpolator<T> const* NumericParameter<T>::customInterpolationMethod(Interpolation kind) const
 {
-    int const index = int(kind) - InterpolationCustomFirst;
-    if (index < 0 || index >= customInterpolators.size())
+    // Built-in kinds (and any kind below them) hold no method; testing first keeps the subtraction in range.
+    if (kind < InterpolationCustomFirst || int(kind) - InterpolationCustomFirst >= customInterpolators.size())
         return nullptr;
-    return customInterpolators[index].get();
+    return customInterpolators[int(kind) - InterpolationCustomFirst].get();
 }
 
 template <class T>
 ParamExtrapolator<T> const* NumericParameter<T>::customExtrapolationMethod(Extrapolation rule) const
 {
-    int const index = int(rule) - ExtrapolationCustomFirst;
-    if (index < 0 || index >= customExtrapolators.size())
+    if (rule < ExtrapolationCustomFirst || int(rule) - ExtrapolationCustomFirst >= customExtrapolators.size())
         return nullptr;
-    return customExtrapolators[index];
+    return customExtrapolators[int(rule) - ExtrapolationCustomFirst];
 }
 
 template <class T>

@@ -217,6 +217,8 @@ TEST(Curve, CustomMethodsAndTheirLists)
     EXPECT_EQ(p.customExtrapolationMethod(Extrapolation(4)), nullptr);
     EXPECT_EQ(p.customExtrapolationMethod(ExtrapolationHold), nullptr);
     EXPECT_EQ(p.customInterpolationMethod(Interpolation(4)), nullptr);
+    EXPECT_EQ(p.customInterpolationMethod(Interpolation(std::numeric_limits<int>::min())), nullptr);
+    EXPECT_EQ(p.customExtrapolationMethod(Extrapolation(std::numeric_limits<int>::min())), nullptr);
 
     p.vSetExtrapolationAfter(ExtrapolationCustomFirst);
     EXPECT_FALSE(p.supportsExtrapolationFromNoKeys());
