@@ -22,6 +22,11 @@ int iArgumentStart(QString const& line)
     return start;
 }
 
+QString qstrEntry(QString const& line, int from, int to)
+{
+    return line.midRef(from, to - from).trimmed().toString();
+}
+
 } // namespace
 
 QStringList parseKeyframeDeclaration(QString line)
@@ -30,27 +35,32 @@ QStringList parseKeyframeDeclaration(QString line)
     int const start = iArgumentStart(line);
     if (start < 0)
         return entries;
-    QString entry;
+    entries.reserve(6);
+    // Entries are cut out of the line whole: one allocation each on the load path.
+    int entryStart = start;
+    int end = line.size();
     bool bQuoted = false;
     int depth = 0;
     for (int i = start; i < line.size(); ++i) {
         QChar const c = line.at(i);
         if (c == QLatin1Char('"')) {
             bQuoted = !bQuoted;
-        } else if (!bQuoted && c == QLatin1Char('(')) {
-            ++depth;
-        } else if (!bQuoted && c == QLatin1Char(')')) {
-            if (depth == 0)
-                break;
-            --depth;
-        } else if (!bQuoted && depth == 0 && c == QLatin1Char(',')) {
-            entries << entry.trimmed();
-            entry.clear();
+        } else if (bQuoted) {
             continue;
+        } else if (c == QLatin1Char('(')) {
+            ++depth;
+        } else if (c == QLatin1Char(')')) {
+            if (depth == 0) {
+                end = i;
+                break;
+            }
+            --depth;
+        } else if (depth == 0 && c == QLatin1Char(',')) {
+            entries << qstrEntry(line, entryStart, i);
+            entryStart = i + 1;
         }
-        entry += c;
     }
-    QString const last = entry.trimmed();
+    QString const last = qstrEntry(line, entryStart, end);
     if (!last.isEmpty() || !entries.isEmpty())
         entries << last;
     return entries;
