@@ -141,7 +141,7 @@ bool Parameter<T>::streamInValue(QString const& line, boost::function<QString(QS
         result = TextDetail::eReadKeyLine(*this, line, textFilter);
         break;
     case TextField::Value: {
-        QString text = line.section(QLatin1Char('='), 1);
+        QString text = qstrValueText(line);
         if (textFilter)
             text = textFilter(text);
         tStaticValue = ValueText<T>::tRead(text);

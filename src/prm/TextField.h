@@ -24,6 +24,9 @@ TextField eTextField(QString const& line);
 /// Section 1 of the line split at `=`, alone: it ends at a second `=`.
 QString qstrFieldText(QString const& line);
 
+/// Everything behind the first `=` (section 1 to the last): further `=` signs stay.
+QString qstrValueText(QString const& line);
+
 /// A flag line's text read as a base-10 integer: true when not 0 (unparsable text is 0).
 bool bFlagOfLine(QString const& line);
 
