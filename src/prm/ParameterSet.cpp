@@ -34,6 +34,17 @@ bool bStreamInParameter(ParameterWithoutType& parameter, QString const& line)
     return parameter.streamInValue(line, boost::function<QString(QString const&)>());
 }
 
+// The `index`-th of the basic parameters named `name`.
+bool bStreamInBasic(QVector<BasicParameter*> const& basicParameters, QString const& name, int index,
+                    QString const& line)
+{
+    for (BasicParameter* parameter : basicParameters) {
+        if (parameter && parameter->scriptName() == name && index-- == 0)
+            return parameter->bStreamIn(line);
+    }
+    return false;
+}
+
 } // namespace
 
 ParameterSet::ParameterSet(QString const& name, ParameterTree*)
@@ -98,23 +109,21 @@ bool ParameterSet::bStreamIn(QString const& line)
         return false;
     QString const name = line.left(dot);
     QString const rest = line.mid(dot + 1);
-    QVector<ParameterWithoutType*> named;
     auto const nameOf = [this](int position) -> QString const* {
         ParameterWithoutType const* parameter = parameters.at(position).data();
         return parameter ? &parameter->qstrScriptName() : nullptr;
     };
-    for (int position : lineRouter.positionsOf(name, parameters.size(), nameOf))
-        named.append(parameters.at(position).data());
-    QVector<BasicParameter*> namedBasic;
+    QVector<int> const positions = lineRouter.positionsOf(name, parameters.size(), nameOf);
+    int basicCount = 0;
     for (BasicParameter* parameter : basicParameters) {
         if (parameter && parameter->scriptName() == name)
-            namedBasic.append(parameter);
+            ++basicCount;
     }
-    int const count = named.size() + namedBasic.size();
+    int const count = positions.size() + basicCount;
     if (count > 0) {
-        int const chosen = lineRouter.iChoose(name, count, eTextField(rest));
-        if (chosen < named.size() ? bStreamInParameter(*named.at(chosen), rest)
-                                  : namedBasic.at(chosen - named.size())->bStreamIn(rest))
+        int const chosen = count > 1 ? lineRouter.iChoose(name, count, eTextField(rest)) : 0;
+        if (chosen < positions.size() ? bStreamInParameter(*parameters.at(positions.at(chosen)), rest)
+                                      : bStreamInBasic(basicParameters, name, chosen - positions.size(), rest))
             return true;
     }
     for (ParameterSet* child : childSets) {
