@@ -35,6 +35,9 @@ TEST(ParameterTextReader, FieldWordsArePrefixTestsInOrder)
     EXPECT_TRUE(p.isHidden());
     EXPECT_TRUE(p.bStreamIn("keyframed=0"));
     EXPECT_FALSE(p.isKeyframed()) << "keyframed= is not taken for keyframes";
+    EXPECT_TRUE(p.bStreamIn(QString::fromUtf8("\u212AEYFRAMED=1")));
+    EXPECT_TRUE(p.isKeyframed()) << "Qt's case folding takes the Kelvin sign for a k";
+    EXPECT_TRUE(p.bStreamIn("keyframed=0"));
     EXPECT_TRUE(p.bStreamIn("keyframedness=1"));
     EXPECT_TRUE(p.isKeyframed());
     EXPECT_TRUE(p.bStreamIn("beforehand=Linear"));

@@ -53,6 +53,23 @@ public:
     ChildSet roi;
 };
 
+// A basic parameter that shares the name of a keyed one, behind one that does not.
+class TwinSet : public Prm::ParameterSet {
+public:
+    TwinSet()
+        : Prm::ParameterSet("Twins", nullptr),
+          keyed(true, "Twin", 0.0, -10.0, 10.0, Prm::InterpolationLinear, Prm::ExtrapolationHold)
+    {
+        addParameter(&keyed);
+        basicParameters.append(new Prm::VirtualParameter<int>("Other", &other));
+        basicParameters.append(new Prm::VirtualParameter<int>("Twin", &twin));
+        bBasicParametersOwned = true;
+    }
+    Prm::NumericParameter<double> keyed;
+    int other = 0;
+    int twin = 0;
+};
+
 class LogCapture {
 public:
     LogCapture()
@@ -143,6 +160,13 @@ TEST(ParameterTextSet, SharedNamesCloseABlockOnARepeatedOrLateField)
         << "a field out of written order closes the block; after the last one the first opens again";
     EXPECT_EQ(set.first.keyframeCount(), 1u);
     EXPECT_TRUE(set.second.isHidden());
+
+    TwinSet twins;
+    EXPECT_TRUE(twins.bStreamIn("Twin.value=1"));
+    EXPECT_TRUE(twins.bStreamIn("Twin.value=7")) << "the next block is the basic parameter of that name";
+    EXPECT_EQ(twins.keyed.staticValue(), 1.0);
+    EXPECT_EQ(twins.twin, 7);
+    EXPECT_EQ(twins.other, 0);
 }
 
 TEST(ParameterTextSet, LinesNotTakenAndMastersNotFoundAreReported)
