@@ -3,20 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstring>
 
 namespace {
 
-TQ::FilmType const& row(QString const& name)
-{
-    TQ_FilmTypeFactory::Container::index<TQ_FilmTypeFactory::ByName>::type const& index =
-        TQ_FilmTypeFactory::getInstance().get<TQ_FilmTypeFactory::ByName>();
-    return *index.find(name);
-}
+TQ::FilmType film(char const* name) { return TQ_FilmTypeFactory::byName(name); }
 
 } // namespace
 
-TEST(FilmType, AspectIndexOrderIsTabled)
+TEST(FilmType, AspectIndexOrderAndTable)
 {
     QStringList const expected = {
         "Custom", "35mm Full Aperture", "PAL", "NTSC", "70mm IMAX", "65mm (15 Perf)", "65mm (10 Perf)",
@@ -25,41 +19,36 @@ TEST(FilmType, AspectIndexOrderIsTabled)
         "Super 35 (3 Perf) B", "Super 35 (3 Perf) A", "Scope Super 35", "CS4 D1 NTSC Anamorphic",
         "CS4 DV NTSC Anamorphic", "CS4 PAL Anamorphic", "Flat 1.85:1", "65mm (5 Perf)", "Cinemascope/Panavision"};
     QStringList actual;
-    for (TQ::FilmType const& film : TQ_FilmTypeFactory::getInstance().get<TQ_FilmTypeFactory::ByAspect>())
-        actual << film.name;
+    for (TQ::FilmType const& row : TQ_FilmTypeFactory::getInstance().get<TQ_FilmTypeFactory::ByAspect>())
+        actual << row.name;
     EXPECT_EQ(expected.join('|').toStdString(), actual.join('|').toStdString());
 
     // Equal ratios must be bit-for-bit equal, neighbours bit-for-bit different.
-    EXPECT_EQ(1.3333333333333333, row("35mm Full Aperture").getFilmBackAspectRatio());
-    EXPECT_EQ(1.3333333333333335, row("NTSC").getFilmBackAspectRatio());
-    EXPECT_EQ(1.3377042949448879, row("70mm IMAX").getFilmBackAspectRatio());
-    EXPECT_EQ(1.7776992401484362, row("PAL Anamorphic").getFilmBackAspectRatio());
-    EXPECT_EQ(1.7777777777777777, row("DVCPRO HD 720").getFilmBackAspectRatio());
-    EXPECT_EQ(2.3607271553810576, row("Cinemascope/Panavision").getFilmBackAspectRatio());
-}
+    struct { char const* name; double dRatio; } const ratios[] = {
+        {"35mm Full Aperture", 1.3333333333333333}, {"NTSC", 1.3333333333333335},
+        {"70mm IMAX", 1.3377042949448879}, {"PAL Anamorphic", 1.7776992401484362},
+        {"DVCPRO HD 720", 1.7777777777777777}, {"Cinemascope/Panavision", 2.3607271553810576}};
+    for (auto const& r : ratios)
+        EXPECT_EQ(r.dRatio, film(r.name).getFilmBackAspectRatio()) << r.name;
 
-TEST(FilmType, TableAndNames)
-{
     QList<QString> const names = TQ_FilmTypeFactory::getAllNames();
     ASSERT_EQ(30, names.size());
     EXPECT_EQ("PAL", names.first());
     EXPECT_EQ("70mm IMAX", names[28]);
     EXPECT_EQ("Custom", names.last());
     EXPECT_EQ(30u, TQ_FilmTypeFactory::getInstance().size());
-
     EXPECT_EQ("Custom", TQ_FilmTypeFactory::names().Custom);
     EXPECT_EQ("Flat 1.85:1", TQ_FilmTypeFactory::names().Flat185);
 
-    TQ::FilmType const film = TQ_FilmTypeFactory::byName("CS4 D1 NTSC");
-    EXPECT_EQ(14.939099999999998, film.filmBackHeight);
-    EXPECT_EQ(14.754666666666665, TQ_FilmTypeFactory::byName("CS4 DV NTSC").filmBackHeight);
-    TQ::FilmType const hd = TQ_FilmTypeFactory::byName("HD");
+    EXPECT_EQ(14.939099999999998, film("CS4 D1 NTSC").filmBackHeight);
+    EXPECT_EQ(14.754666666666665, film("CS4 DV NTSC").filmBackHeight);
+    TQ::FilmType const hd = film("HD");
     EXPECT_EQ(QSize(1280, 720), hd.uiSize(1));
     EXPECT_EQ(QSize(640, 480), hd.uiSize(2));
     EXPECT_EQ(QSize(0, 0), hd.uiSize(3));
-    EXPECT_TRUE(TQ_FilmTypeFactory::byName("NTSC Anamorphic").anamorphic);
-    EXPECT_FALSE(TQ_FilmTypeFactory::byName("pal").isValid());
-    EXPECT_TRUE(TQ_FilmTypeFactory::byName("pal").name.isNull());
+    EXPECT_TRUE(film("NTSC Anamorphic").anamorphic);
+    EXPECT_FALSE(film("pal").isValid());
+    EXPECT_TRUE(film("pal").name.isNull());
 }
 
 TEST(FilmType, ValueOperations)
@@ -68,30 +57,27 @@ TEST(FilmType, ValueOperations)
     EXPECT_FALSE(invalid.isValid());
     EXPECT_FALSE(invalid.isCustom());
     EXPECT_TRUE(invalid.name.isNull());
-
     TQ::FilmType const custom(4.0, 3.0);
-    EXPECT_TRUE(custom.isCustom());
-    EXPECT_TRUE(custom.isValid());
+    EXPECT_TRUE(custom.isCustom() && custom.isValid());
     EXPECT_EQ(QSize(0, 0), custom.uiSize(0));
-    EXPECT_TRUE(TQ_FilmTypeFactory::byName("Custom").isCustom());
-    EXPECT_TRUE(TQ_FilmTypeFactory::byName("Custom").isValid());
+    EXPECT_TRUE(film("Custom").isCustom() && film("Custom").isValid());
     EXPECT_FALSE(TQ::FilmType(0.0, 3.0).isValid());
     EXPECT_FALSE(TQ::FilmType(4.0, 0.0).isValid());
 
-    TQ::FilmType const pal = TQ_FilmTypeFactory::byName("PAL");
+    TQ::FilmType const pal = film("PAL");
     double const dRatio = 576.0 * (20.12 / 15.09) / 720.0;
     EXPECT_EQ(dRatio, pal.pixelAspectRatio(QSize(720, 576)));
     EXPECT_EQ(dRatio, pal.defPixelAspectRatio());
     EXPECT_EQ(dRatio, pal.pixelAspectRatio(QSize(720, 576), false));
     EXPECT_EQ(288.0 * (20.12 / 15.09) / 720.0 * 2.0, pal.pixelAspectRatio(QSize(720, 288), true));
-    EXPECT_EQ(0.0, TQ_FilmTypeFactory::byName("16mm").defPixelAspectRatio());
-    EXPECT_EQ(0.0, TQ_FilmTypeFactory::byName("70mm IMAX").defPixelAspectRatio());
+    EXPECT_EQ(0.0, film("16mm").defPixelAspectRatio());
+    EXPECT_EQ(0.0, film("70mm IMAX").defPixelAspectRatio());
 
     EXPECT_TRUE(filmTypeMatchesHeight(pal, 576));
     EXPECT_TRUE(filmTypeMatchesHeight(pal, 0));
     EXPECT_FALSE(filmTypeMatchesHeight(pal, 480));
-    EXPECT_FALSE(filmTypeMatchesHeight(TQ_FilmTypeFactory::byName("16mm"), 428));
-    TQ::FilmType const ntsc = TQ_FilmTypeFactory::byName("NTSC");
+    EXPECT_FALSE(filmTypeMatchesHeight(film("16mm"), 428));
+    TQ::FilmType const ntsc = film("NTSC");
     EXPECT_TRUE(filmTypeMatchesSize(ntsc, QSize(720, 480)));
     EXPECT_FALSE(filmTypeMatchesSize(ntsc, QSize(720, 576)));
     EXPECT_TRUE(filmTypeMatchesSize(ntsc, QSize(0, 0)));
@@ -99,22 +85,19 @@ TEST(FilmType, ValueOperations)
 
 TEST(FilmType, BestMatchForSize)
 {
-    auto match = [](int w, int h, bool doubled) {
-        return TQ_FilmTypeFactory::bestMatchForSize(QSize(w, h), doubled).name;
-    };
-    EXPECT_EQ("HD", match(1920, 1080, false));
-    EXPECT_EQ("HDV", match(1440, 1080, false));
-    EXPECT_EQ("DVCPRO HD 1080", match(1000, 1080, false));
-    EXPECT_EQ("PAL", match(720, 288, true));
-    EXPECT_EQ("PAL", match(720, 576, false));
-    EXPECT_EQ("NTSC", match(720, 243, true));
-    EXPECT_EQ("HD", match(1280, 720, false));
-    EXPECT_EQ("DVCPRO HD 720", match(100, 720, false));
-    EXPECT_EQ("HD", match(640, 240, true));
-    EXPECT_EQ("Super 35 (3 Perf) B", match(2048, 1160, false));
-    EXPECT_TRUE(match(720, 540, false).isNull());
-    EXPECT_EQ("PAL", match(500, 0, false));
-    EXPECT_EQ("PAL", match(0, 0, false));
+    struct { int w, h; bool doubled; char const* name; } const rows[] = {
+        {1920, 1080, false, "HD"}, {1440, 1080, false, "HDV"}, {1000, 1080, false, "DVCPRO HD 1080"},
+        {720, 288, true, "PAL"}, {720, 576, false, "PAL"}, {720, 243, true, "NTSC"}, {1280, 720, false, "HD"},
+        {100, 720, false, "DVCPRO HD 720"}, {640, 240, true, "HD"}, {2048, 1160, false, "Super 35 (3 Perf) B"},
+        {720, 540, false, nullptr}, {500, 0, false, "PAL"}, {0, 0, false, "PAL"}};
+    for (auto const& r : rows) {
+        QString const name = TQ_FilmTypeFactory::bestMatchForSize(QSize(r.w, r.h), r.doubled).name;
+        SCOPED_TRACE(testing::Message() << r.w << "x" << r.h << " doubled " << r.doubled);
+        if (r.name)
+            EXPECT_EQ(r.name, name);
+        else
+            EXPECT_TRUE(name.isNull());
+    }
 }
 
 TEST(FilmType, BestMatchForPAR)
@@ -122,40 +105,32 @@ TEST(FilmType, BestMatchForPAR)
     auto match = [](double par, int w, int h, bool doubled) {
         return TQ_FilmTypeFactory::bestMatchForPAR(par, QSize(w, h), doubled);
     };
-    EXPECT_EQ("HD", match(1.0, 1920, 1080, false).name);
-    EXPECT_EQ("HD", match(1.0, 1280, 720, false).name);
-    EXPECT_EQ("NTSC", match(0.9, 720, 486, false).name);
-    EXPECT_EQ("NTSC", match(0.9, 720, 243, true).name);
-    EXPECT_EQ("PAL", match(16.0 / 15.0, 720, 576, false).name);
-    EXPECT_EQ("PAL Anamorphic", match(64.0 / 45.0, 720, 576, false).name);
-    // Rows 19 and 20 share a gate; only the exact size chooses between them.
-    EXPECT_EQ("Super 35 (3 Perf) A", match(1156.0 * (24.9 / 13.9) / 2048.0, 2048, 1156, false).name);
-    // No exact size in range: the first of equal height wins in aspect index order, where HD stands
-    // ahead of the table's earlier DVCPRO HD 1080.
-    EXPECT_EQ("HD", match(1.92, 1000, 1080, false).name);
-    EXPECT_EQ("DVCPRO HD 1080", match(1.5, 1280, 1080, false).name);
+    // Super 35 A and B share a gate; only the exact size chooses between them. With no exact size in range
+    // the first of equal height wins in aspect index order, where HD stands ahead of DVCPRO HD 1080.
+    struct { double par; int w, h; bool doubled; char const* name; } const named[] = {
+        {1.0, 1920, 1080, false, "HD"}, {1.0, 1280, 720, false, "HD"}, {0.9, 720, 486, false, "NTSC"},
+        {0.9, 720, 243, true, "NTSC"}, {16.0 / 15.0, 720, 576, false, "PAL"},
+        {64.0 / 45.0, 720, 576, false, "PAL Anamorphic"},
+        {1156.0 * (24.9 / 13.9) / 2048.0, 2048, 1156, false, "Super 35 (3 Perf) A"},
+        {1.92, 1000, 1080, false, "HD"}, {1.5, 1280, 1080, false, "DVCPRO HD 1080"}};
+    for (auto const& r : named)
+        EXPECT_EQ(r.name, match(r.par, r.w, r.h, r.doubled).name) << r.par << " " << r.w << "x" << r.h;
 
-    TQ::FilmType const custom = match(1.0, 720, 485, false);
-    EXPECT_TRUE(custom.isCustom());
-    EXPECT_EQ(720.0, custom.filmBackWidth);
-    EXPECT_EQ(485.0, custom.filmBackHeight);
+    // Doubled: the fallback gets the field size, so the width is halved to keep the frame's ratio. The last
+    // row is in aspect range and tolerance but matches no size or height.
+    struct { int w, h; bool doubled; double dWidth; } const customs[] = {
+        {720, 485, false, 720.0}, {720, 485, true, 360.0}, {1600, 900, false, 1600.0}};
+    for (auto const& r : customs) {
+        TQ::FilmType const custom = match(1.0, r.w, r.h, r.doubled);
+        EXPECT_TRUE(custom.isCustom()) << r.w << "x" << r.h;
+        EXPECT_EQ(r.dWidth, custom.filmBackWidth);
+        EXPECT_EQ(double(r.h), custom.filmBackHeight);
+    }
 
-    // Doubled: the fallback gets the field size, so the width is halved to keep the frame's ratio.
-    TQ::FilmType const field = match(1.0, 720, 485, true);
-    EXPECT_TRUE(field.isCustom());
-    EXPECT_EQ(360.0, field.filmBackWidth);
-    EXPECT_EQ(485.0, field.filmBackHeight);
-
-    // In aspect range and tolerance but no size or height: custom.
-    TQ::FilmType const noHeight = match(1.0, 1600, 900, false);
-    EXPECT_TRUE(noHeight.isCustom());
-    EXPECT_EQ(1600.0, noHeight.filmBackWidth);
-
-    EXPECT_FALSE(match(0.0, 720, 576, false).isValid());
-    EXPECT_FALSE(match(-1.0, 720, 576, false).isValid());
-    EXPECT_FALSE(match(1.0, 0, 576, false).isValid());
-    EXPECT_FALSE(match(1.0, 720, 0, false).isValid());
-    EXPECT_FALSE(match(std::nan(""), 720, 576, false).isValid());
+    struct { double par; int w, h; } const invalid[] = {
+        {0.0, 720, 576}, {-1.0, 720, 576}, {1.0, 0, 576}, {1.0, 720, 0}, {std::nan(""), 720, 576}};
+    for (auto const& r : invalid)
+        EXPECT_FALSE(match(r.par, r.w, r.h, false).isValid()) << r.par << " " << r.w << "x" << r.h;
 }
 
 TEST(FilmType, CustomHelpers)
@@ -164,11 +139,13 @@ TEST(FilmType, CustomHelpers)
     EXPECT_EQ(0.0, TQ_FilmTypeFactory::requiredFilmAspectFromParAndDims(1.0, QSize(10, 0)));
     EXPECT_EQ(2.0 * (3.0 / 7.0), TQ_FilmTypeFactory::requiredFilmAspectFromParAndDims(2.0, QSize(3, 7)));
 
-    TQ::FilmType const custom = TQ_FilmTypeFactory::customTypeForParAndDims(1.5, QSize(100, 50), true);
-    EXPECT_EQ(75.0, custom.filmBackWidth);
-    EXPECT_EQ(50.0, custom.filmBackHeight);
-    EXPECT_EQ(150.0, TQ_FilmTypeFactory::customTypeForParAndDims(1.5, QSize(100, 50), false).filmBackWidth);
-    EXPECT_FALSE(TQ_FilmTypeFactory::customTypeForParAndDims(0.0, QSize(100, 50), false).isValid());
-    EXPECT_FALSE(TQ_FilmTypeFactory::customTypeForParAndDims(1.0, QSize(100, 0), false).isValid());
-    EXPECT_FALSE(TQ_FilmTypeFactory::customTypeForParAndDims(1.0, QSize(100, 0), false).isCustom());
+    auto custom = [](double par, int h, bool doubled) {
+        return TQ_FilmTypeFactory::customTypeForParAndDims(par, QSize(100, h), doubled);
+    };
+    EXPECT_EQ(75.0, custom(1.5, 50, true).filmBackWidth);
+    EXPECT_EQ(50.0, custom(1.5, 50, true).filmBackHeight);
+    EXPECT_EQ(150.0, custom(1.5, 50, false).filmBackWidth);
+    EXPECT_FALSE(custom(0.0, 50, false).isValid());
+    EXPECT_FALSE(custom(1.0, 0, false).isValid());
+    EXPECT_FALSE(custom(1.0, 0, false).isCustom());
 }

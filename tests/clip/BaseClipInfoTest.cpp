@@ -72,22 +72,13 @@ TEST(BaseClipInfo, DefaultsAndTextOrder)
 TEST(BaseClipInfo, TextRoundTripThroughTheSet)
 {
     TQ_BaseClipInfo source;
-    source.FrameWidth = 2048;
-    source.FrameHeight = 1556;
-    source.CropBottom = 4;
-    source.eInterlaceMode = _TQ_INTERLACE_MODE(7);
-    source.FrameRate = 23.976f;
-    source.FirstFrameOffset = -1001;
+    source.FrameWidth = 2048, source.FrameHeight = 1556, source.CropBottom = 4;
+    source.eInterlaceMode = _TQ_INTERLACE_MODE(7), source.FrameRate = 23.976f, source.FirstFrameOffset = -1001;
     source.setFilmType(TQ_FilmTypeFactory::byName("35mm Full Aperture"));
     source.setNumImageFilesInClip(125);
-    source.ProxyScale = _TQ_PROXY_SCALE(2);
-    source.DisplayRed = 255;
-    source.DisplayBlue = 7;
-    source.ViewOriginX = -12.5f;
-    source.ViewZoom = 0.5f;
-    source.ClipModeBefore = _TQ_CLIP_MODE(2);
-    source.ClipModeAfter = _TQ_CLIP_MODE(3);
-    source.filmType.anamorphic = true;
+    source.ProxyScale = _TQ_PROXY_SCALE(2), source.DisplayRed = 255, source.DisplayBlue = 7;
+    source.ViewOriginX = -12.5f, source.ViewZoom = 0.5f, source.filmType.anamorphic = true;
+    source.ClipModeBefore = _TQ_CLIP_MODE(2), source.ClipModeAfter = _TQ_CLIP_MODE(3);
 
     TQ_BaseClipInfo target;
     readInto(target, textOf(source));
@@ -126,13 +117,10 @@ TEST(BaseClipInfo, NumberOfFramesTable)
         }
     }
     // The unguarded b - 1 wraps for zero files; the other pulldown rows give 0.
-    EXPECT_EQ(uiNone, withMode(5).uiGetNumberOfFrames(0));
-    EXPECT_EQ(uiNone, withMode(11).uiGetNumberOfFrames(0));
-    EXPECT_EQ(0u, withMode(3).uiGetNumberOfFrames(0));
-    EXPECT_EQ(4u, withMode(3).uiGetNumberOfFrames(5));
-    EXPECT_EQ(6u, withMode(3).uiGetNumberOfFrames(7));
-    EXPECT_EQ(6u, withMode(3).uiGetNumberOfFrames(8));
-    EXPECT_EQ(0u, withMode(1).uiGetNumberOfFrames(0x80000000u));
+    struct { int iMode; unsigned int uiFiles, uiFrames; } const edges[] = {
+        {5, 0, uiNone}, {11, 0, uiNone}, {3, 0, 0}, {3, 5, 4}, {3, 7, 6}, {3, 8, 6}, {1, 0x80000000u, 0}};
+    for (auto const& e : edges)
+        EXPECT_EQ(e.uiFrames, withMode(e.iMode).uiGetNumberOfFrames(e.uiFiles)) << e.iMode << " " << e.uiFiles;
 
     TQ_BaseClipInfo clip = withMode(20);
     clip.setNumImageFilesInClip(10);
@@ -161,13 +149,10 @@ TEST(BaseClipInfo, NumberOfPulldownFilesTable)
                 EXPECT_EQ(row.files[r], clip.uiGetNumberOfPulldownFiles(8 + r)) << "mode " << iMode << " r " << r;
         }
     }
-    EXPECT_EQ(4u, withMode(4).uiGetNumberOfPulldownFiles(3));
-    EXPECT_EQ(3u, withMode(3).uiGetNumberOfPulldownFiles(3));
-    EXPECT_EQ(4u, withMode(7).uiGetNumberOfPulldownFiles(4));
-    EXPECT_EQ(0u, withMode(7).uiGetNumberOfPulldownFiles(0));
-    EXPECT_EQ(0u, withMode(12).uiGetNumberOfPulldownFiles(0));
-    EXPECT_EQ(0u, withMode(5).uiGetNumberOfPulldownFiles(0));
-    EXPECT_EQ(uiNone, withMode(1).uiGetNumberOfPulldownFiles(7));
+    struct { int iMode; unsigned int uiFrames, uiFiles; } const edges[] = {
+        {4, 3, 4}, {3, 3, 3}, {7, 4, 4}, {7, 0, 0}, {12, 0, 0}, {5, 0, 0}, {1, 7, uiNone}};
+    for (auto const& e : edges)
+        EXPECT_EQ(e.uiFiles, withMode(e.iMode).uiGetNumberOfPulldownFiles(e.uiFrames)) << e.iMode << " " << e.uiFrames;
 }
 
 TEST(BaseClipInfo, SetFilmTypeDoublesOnlyForFieldModes)

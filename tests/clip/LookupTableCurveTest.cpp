@@ -5,7 +5,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
+#include <utility>
 #include <vector>
+
+// Integer input needs none of the float-input outputs nor a forward table.
+#define NO_FLOAT_INPUT nullptr, nullptr, nullptr, nullptr, nullptr, nullptr
 
 namespace {
 
@@ -42,9 +47,8 @@ TEST(LookupTableLog, DefaultSixteenBitLogToLinearHasBlackRunAndSaturation)
 TEST(LookupTableLog, ReferenceBlackAboveWhiteIsOneBelowWhite)
 {
     std::vector<unsigned char> swapped(1024), explicitBlack(1024), lower(1024);
-    ASSERT_TRUE(gbCreate8BitLogLinLookup(10, 0.0f, 685.0f, 700.0f, 1.0f, 0.0f, swapped.data()));
-    ASSERT_TRUE(gbCreate8BitLogLinLookup(10, 0.0f, 685.0f, 684.0f, 1.0f, 0.0f, explicitBlack.data()));
-    ASSERT_TRUE(gbCreate8BitLogLinLookup(10, 0.0f, 685.0f, 600.0f, 1.0f, 0.0f, lower.data()));
+    for (auto [black, table] : {std::pair{700.0f, &swapped}, {684.0f, &explicitBlack}, {600.0f, &lower}})
+        ASSERT_TRUE(gbCreate8BitLogLinLookup(10, 0.0f, 685.0f, black, 1.0f, 0.0f, table->data()));
     EXPECT_EQ(swapped, explicitBlack);
     EXPECT_NE(swapped, lower);
     EXPECT_EQ(swapped[684], 0);
@@ -88,8 +92,7 @@ TEST(LookupTableLog, LinearToLogInvertsTheFilmCurve)
 {
     std::vector<unsigned short> toLinear(65536), toLog(65536);
     ASSERT_TRUE(gbCreate16BitLogLinLookup(16, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, toLinear.data()));
-    ASSERT_TRUE(gbCreate16BitLinLogLookup(16, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, toLog.data(), nullptr,
-                                          nullptr, nullptr, nullptr, nullptr, nullptr));
+    ASSERT_TRUE(gbCreate16BitLinLogLookup(16, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, toLog.data(), NO_FLOAT_INPUT));
     // Log output is code * 64; linear 0 sits at reference black.
     EXPECT_EQ(toLog[0], 95 * 64);
     EXPECT_EQ(toLog[65535], 685 * 64);
@@ -102,8 +105,7 @@ TEST(LookupTableLog, LinearToLogInvertsTheFilmCurve)
     EXPECT_TRUE(bNonDecreasing(toLog));
 
     std::vector<float> floatOut(256, 3.0f);
-    ASSERT_TRUE(gbCreate32BitFloatLinLogLookup(8, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, floatOut.data(), nullptr,
-                                               nullptr, nullptr, nullptr, nullptr, nullptr));
+    ASSERT_TRUE(gbCreate32BitFloatLinLogLookup(8, 0.0f, 685.0f, 95.0f, 1.0f, 0, floatOut.data(), NO_FLOAT_INPUT));
     EXPECT_TRUE(std::all_of(floatOut.begin(), floatOut.end(), [](float v) { return v == 0.5f; }));
 }
 
@@ -120,8 +122,7 @@ TEST(LookupTablePanalog, LimitsOfTheIntegerTables)
     EXPECT_TRUE(bNonDecreasing(toLinear));
 
     std::vector<unsigned short> toLog(65536);
-    ASSERT_TRUE(gbCreate16BitLinPanalogLookup(16, toLog.data(), nullptr, nullptr, nullptr, nullptr, nullptr,
-                                              nullptr));
+    ASSERT_TRUE(gbCreate16BitLinPanalogLookup(16, toLog.data(), NO_FLOAT_INPUT));
     EXPECT_EQ(toLog[0], 64 * 64);
     EXPECT_EQ(*std::max_element(toLog.begin(), toLog.end()), 65216);
     // The input is index times a single-precision step, multiplied in single precision.
@@ -132,8 +133,7 @@ TEST(LookupTablePanalog, LimitsOfTheIntegerTables)
     }
     EXPECT_TRUE(bNonDecreasing(toLog));
     std::vector<unsigned char> toLog8(256);
-    ASSERT_TRUE(gbCreate8BitLinPanalogLookup(8, toLog8.data(), nullptr, nullptr, nullptr, nullptr, nullptr,
-                                             nullptr));
+    ASSERT_TRUE(gbCreate8BitLinPanalogLookup(8, toLog8.data(), NO_FLOAT_INPUT));
     EXPECT_EQ(toLog8[255], 255);
     EXPECT_EQ(toLog8[0], 16);
 }
@@ -149,8 +149,7 @@ TEST(LookupTablePanalog, FloatMembersKeepTheirConstantResults)
     EXPECT_GT(table[1023], 1.0f);
     EXPECT_TRUE(bNonDecreasing(table));
     std::fill(table.begin(), table.end(), 3.0f);
-    ASSERT_TRUE(gbCreate32BitFloatLinPanalogLookup(8, table.data(), nullptr, nullptr, nullptr, nullptr,
-                                                   nullptr, nullptr));
+    ASSERT_TRUE(gbCreate32BitFloatLinPanalogLookup(8, table.data(), NO_FLOAT_INPUT));
     EXPECT_TRUE(std::all_of(table.begin(), table.begin() + 256, [](float v) { return v == 0.0f; }));
 }
 
@@ -158,11 +157,9 @@ TEST(LookupTableGamma, GammaOneIsLinearAndOtherGammasFollowThePower)
 {
     std::vector<unsigned char> t8(256);
     std::vector<unsigned short> t16(256);
-    std::vector<float> tf(256);
-    ASSERT_TRUE(gbCreate8BitGammaLookup(8, 1.0f, t8.data(), nullptr, nullptr, nullptr, nullptr, nullptr,
-                                        nullptr));
-    ASSERT_TRUE(gbCreate16BitGammaLookup(8, 1.0f, t16.data(), nullptr, nullptr, nullptr, nullptr, nullptr,
-                                         nullptr));
+    std::vector<float> tf(256), dummy(256);
+    ASSERT_TRUE(gbCreate8BitGammaLookup(8, 1.0f, t8.data(), NO_FLOAT_INPUT));
+    ASSERT_TRUE(gbCreate16BitGammaLookup(8, 1.0f, t16.data(), NO_FLOAT_INPUT));
     ASSERT_TRUE(gbCreate32BitFloatGammaLookup(8, 1.0f, tf.data()));
     for (int i = 0; i < 256; ++i) {
         EXPECT_EQ(t8[i], i);
@@ -171,16 +168,13 @@ TEST(LookupTableGamma, GammaOneIsLinearAndOtherGammasFollowThePower)
     }
 
     std::vector<unsigned short> curve(65536);
-    ASSERT_TRUE(gbCreate16BitGammaLookup(16, 2.2f, curve.data(), nullptr, nullptr, nullptr, nullptr, nullptr,
-                                         nullptr));
+    ASSERT_TRUE(gbCreate16BitGammaLookup(16, 2.2f, curve.data(), NO_FLOAT_INPUT));
     double const g = 1.0f / 2.2f;
     for (int i : {1, 100, 1000, 30000, 65535})
         EXPECT_EQ(curve[i], std::trunc(std::pow(i, g) * (65535.0 / std::pow(65535.0f, g)) + 0.5)) << i;
     EXPECT_EQ(curve[0], 0);
     EXPECT_TRUE(bNonDecreasing(curve));
-    std::vector<float> dummy(256);
-    ASSERT_TRUE(gbCreate32BitFloatGammaLookupDummy(8, 2.2f, dummy.data(), nullptr, nullptr, nullptr, nullptr,
-                                                   nullptr, nullptr));
+    ASSERT_TRUE(gbCreate32BitFloatGammaLookupDummy(8, 2.2f, dummy.data(), NO_FLOAT_INPUT));
     ASSERT_TRUE(gbCreate32BitFloatGammaLookup(8, 2.2f, tf.data()));
     EXPECT_EQ(dummy, tf);
     EXPECT_FLOAT_EQ(tf[255], 1.0f);
@@ -189,23 +183,16 @@ TEST(LookupTableGamma, GammaOneIsLinearAndOtherGammasFollowThePower)
 TEST(LookupTableLog, DegenerateArgumentsAreSurvived)
 {
     std::vector<unsigned short> table(1024, 7);
-    EXPECT_FALSE(gbCreate16BitLogLinLookup(33, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, table.data()));
-    EXPECT_FALSE(gbCreate16BitLogLinLookup(-1, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, table.data()));
-    EXPECT_FALSE(gbCreate16BitLogLinLookup(10, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, nullptr));
+    for (auto [bits, out] : {std::pair{33, table.data()}, {-1, table.data()}, {10, nullptr}})
+        EXPECT_FALSE(gbCreate16BitLogLinLookup(bits, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, out)) << bits;
     EXPECT_EQ(table[0], 7);
     // Gamma 0, far offsets and a NaN soft clip give garbage entries, but stay inside the table.
-    EXPECT_TRUE(gbCreate16BitLogLinLookup(10, 0.0f, 685.0f, 95.0f, 0.0f, 10.0f, table.data()));
-    EXPECT_TRUE(gbCreate16BitLogLinLookup(10, 3e9f, 685.0f, 95.0f, 1.0f, 10.0f, table.data()));
-    EXPECT_TRUE(gbCreate16BitLogLinLookup(10, -3e9f, 685.0f, 95.0f, 1.0f, NAN, table.data()));
-    EXPECT_TRUE(gbCreate16BitLinLogLookup(10, 3e9f, 685.0f, 95.0f, 0.0f, 5.0f, table.data(), nullptr, nullptr,
-                                          nullptr, nullptr, nullptr, nullptr));
-    EXPECT_TRUE(gbCreate16BitGammaLookup(10, 0.0f, table.data(), nullptr, nullptr, nullptr, nullptr, nullptr,
-                                         nullptr));
-    EXPECT_TRUE(gbCreate16BitGammaLookup(0, 2.2f, table.data(), nullptr, nullptr, nullptr, nullptr, nullptr,
-                                         nullptr));
-    EXPECT_TRUE(gbCreate16BitLinPanalogLookup(0, table.data(), nullptr, nullptr, nullptr, nullptr, nullptr,
-                                              nullptr));
+    for (auto [offset, gamma, softClip] : {std::tuple{0.0f, 0.0f, 10.0f}, {3e9f, 1.0f, 10.0f}, {-3e9f, 1.0f, NAN}})
+        EXPECT_TRUE(gbCreate16BitLogLinLookup(10, offset, 685.0f, 95.0f, gamma, softClip, table.data())) << offset;
+    EXPECT_TRUE(gbCreate16BitLinLogLookup(10, 3e9f, 685.0f, 95.0f, 0.0f, 5.0f, table.data(), NO_FLOAT_INPUT));
+    EXPECT_TRUE(gbCreate16BitGammaLookup(10, 0.0f, table.data(), NO_FLOAT_INPUT));
+    EXPECT_TRUE(gbCreate16BitGammaLookup(0, 2.2f, table.data(), NO_FLOAT_INPUT));
+    EXPECT_TRUE(gbCreate16BitLinPanalogLookup(0, table.data(), NO_FLOAT_INPUT));
     // Float input without a forward table cannot be built.
-    EXPECT_FALSE(gbCreate16BitGammaLookup(32, 2.2f, table.data(), nullptr, nullptr, nullptr, nullptr, nullptr,
-                                          nullptr));
+    EXPECT_FALSE(gbCreate16BitGammaLookup(32, 2.2f, table.data(), NO_FLOAT_INPUT));
 }

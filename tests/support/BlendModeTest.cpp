@@ -19,38 +19,28 @@ TEST(BlendMode, RegisteredAtLoadInIdOrder)
     EXPECT_EQ(BlendMode::fromID(AE_BLEND_MODE_MULTIPLY)->eId, AE_BLEND_MODE_MULTIPLY);
 
     // Unknown ids fall back to the lowest id, silently.
-    BlendMode* add = BlendMode::fromID(AE_BLEND_MODE_ADD);
-    EXPECT_EQ(BlendMode::fromID(static_cast<AEBlendModeID>(0)), add);
-    EXPECT_EQ(BlendMode::fromID(static_cast<AEBlendModeID>(4)), add);
-    EXPECT_EQ(BlendMode::fromID(static_cast<AEBlendModeID>(-1)), add);
+    for (int iId : {0, 4, -1})
+        EXPECT_EQ(BlendMode::fromID(static_cast<AEBlendModeID>(iId)), BlendMode::fromID(AE_BLEND_MODE_ADD)) << iId;
 }
 
 TEST(BlendMode, EachModeLimitsItsResultDifferently)
 {
-    BlendMode const* add = BlendMode::fromID(AE_BLEND_MODE_ADD);
-    BlendMode const* subtract = BlendMode::fromID(AE_BLEND_MODE_SUBTRACT);
-    BlendMode const* multiply = BlendMode::fromID(AE_BLEND_MODE_MULTIPLY);
-
-    EXPECT_EQ(add->blend(0.75f, 0.75f), 1.0f);
-    EXPECT_EQ(add->blend(0.25f, 0.5f), 0.75f);
-    EXPECT_EQ(add->blend(-2.0f, 1.0f), -1.0f);
-    EXPECT_EQ(add->blend(1.0f, 0.0f), 1.0f);
-
-    EXPECT_EQ(subtract->blend(0.25f, 0.75f), 0.0f);
-    EXPECT_EQ(subtract->blend(3.0f, 1.0f), 2.0f);
-    EXPECT_EQ(subtract->blend(0.75f, 0.25f), 0.5f);
-
-    EXPECT_EQ(multiply->blend(2.0f, 2.0f), 4.0f);
-    EXPECT_EQ(multiply->blend(-1.0f, 2.0f), -2.0f);
-
     float const nan = std::numeric_limits<float>::quiet_NaN();
     float const inf = std::numeric_limits<float>::infinity();
-    EXPECT_TRUE(std::isnan(add->blend(nan, 0.0f)));
-    EXPECT_TRUE(std::isnan(subtract->blend(0.0f, nan)));
-    EXPECT_TRUE(std::isnan(add->blend(inf, -inf)));
-    EXPECT_TRUE(std::isnan(multiply->blend(nan, 1.0f)));
-    EXPECT_EQ(add->blend(-inf, 0.0f), -inf);
-    EXPECT_EQ(subtract->blend(inf, 0.0f), inf);
+    AEBlendModeID const add = AE_BLEND_MODE_ADD, sub = AE_BLEND_MODE_SUBTRACT, mul = AE_BLEND_MODE_MULTIPLY;
+    struct { AEBlendModeID eId; float a, b, expected; } const rows[] = {
+        {add, 0.75f, 0.75f, 1.0f}, {add, 0.25f, 0.5f, 0.75f}, {add, -2.0f, 1.0f, -1.0f}, {add, 1.0f, 0.0f, 1.0f},
+        {sub, 0.25f, 0.75f, 0.0f}, {sub, 3.0f, 1.0f, 2.0f}, {sub, 0.75f, 0.25f, 0.5f},
+        {mul, 2.0f, 2.0f, 4.0f}, {mul, -1.0f, 2.0f, -2.0f}, {add, -inf, 0.0f, -inf}, {sub, inf, 0.0f, inf},
+        {add, nan, 0.0f, nan}, {sub, 0.0f, nan, nan}, {add, inf, -inf, nan}, {mul, nan, 1.0f, nan}};
+    for (auto const& r : rows) {
+        float const result = BlendMode::fromID(r.eId)->blend(r.a, r.b);
+        SCOPED_TRACE(testing::Message() << "mode " << r.eId << ": " << r.a << ", " << r.b);
+        if (std::isnan(r.expected))
+            EXPECT_TRUE(std::isnan(result));
+        else
+            EXPECT_EQ(result, r.expected);
+    }
 }
 
 namespace {

@@ -7,6 +7,8 @@
 #include <QTextStream>
 #include <QVariant>
 
+#include <iterator>
+
 namespace {
 
 template <typename E>
@@ -20,7 +22,7 @@ QString written(E value)
 }
 
 template <typename E>
-E read(QString text, E initial)
+int read(QString text, E initial)
 {
     QTextStream in(&text);
     E value = initial;
@@ -30,35 +32,29 @@ E read(QString text, E initial)
 
 } // namespace
 
-TEST(Enumerations, WriteDecimalAndReadAnyNumberAsItStands)
+TEST(Enumerations, WriteDecimalAndReadThroughTheUnsignedReader)
 {
-    EXPECT_EQ(written(TQ_CLIP_MODE_PING_PONG), QStringLiteral("3"));
-    EXPECT_EQ(written(TQ_COLORSPACE_PANALOG), QStringLiteral("2"));
-    EXPECT_EQ(written(TQ_TRUE), QStringLiteral("1"));
-    EXPECT_EQ(written(GAN_DISTORTION_MAP), QStringLiteral("15"));
-    EXPECT_EQ(written(GAN_FLOAT), QStringLiteral("8"));
-    EXPECT_EQ(written(GAN_UNDEFINED_IMAGE_FORMAT), QStringLiteral("13"));
     // Written as a signed int even though it is read as unsigned.
-    EXPECT_EQ(written(static_cast<TQ_BlendMode>(-5)), QStringLiteral("-5"));
+    QString const pairs[][2] = {
+        {written(TQ_CLIP_MODE_PING_PONG), "3"}, {written(TQ_COLORSPACE_PANALOG), "2"}, {written(TQ_TRUE), "1"},
+        {written(GAN_DISTORTION_MAP), "15"}, {written(GAN_FLOAT), "8"}, {written(GAN_UNDEFINED_IMAGE_FORMAT), "13"},
+        {written(static_cast<TQ_BlendMode>(-5)), "-5"}};
+    for (auto const& pair : pairs)
+        EXPECT_EQ(pair[0], pair[1]);
 
-    // Numbers that name no enumerator are kept.
-    EXPECT_EQ(read(QStringLiteral("7"), TQ_CLIP_MODE_DONT_REPEAT), 7);
-    EXPECT_EQ(read(QStringLiteral("99"), TQ_INTERLACE_NONE), 99);
-    EXPECT_EQ(read(QStringLiteral("1234"), TRACK_MODEL_DEFAULT), 1234);
-    EXPECT_EQ(read(QStringLiteral("11"), GAN_LINEAR_CAMERA), 11);
-    EXPECT_EQ(read(QStringLiteral("4000000"), GAN_UNDEFINED_TYPE), 4000000);
-    EXPECT_EQ(read(QStringLiteral("  2 rest"), TQ_COLORSPACE_GAMMA), TQ_COLORSPACE_PANALOG);
-    // Above INT_MAX the unsigned number wraps into the int-sized value.
-    EXPECT_EQ(read(QStringLiteral("4294967295"), TQ_FALSE), -1);
-}
-
-TEST(Enumerations, ReadingGoesThroughTheUnsignedReader)
-{
-    // No digits: the unsigned reader fails and gives 0, which replaces the old value.
-    EXPECT_EQ(read(QStringLiteral("x"), TQ_CLIP_MODE_LOOP), 0);
-    // Qt's unsigned reader takes a sign and wraps; the value comes back as the int it was written from.
-    EXPECT_EQ(read(QStringLiteral("-1"), TQ_CLIP_MODE_LOOP), -1);
-    EXPECT_EQ(read(written(static_cast<TQ_BlendMode>(-5)), TQ_BLEND_MODE_DEFAULT), -5);
+    // Numbers that name no enumerator are kept; above INT_MAX the unsigned number wraps into the int-sized
+    // value. No digits: the unsigned reader fails and gives 0, which replaces the old value. Qt's unsigned
+    // reader takes a sign and wraps; the value comes back as the int it was written from.
+    int const reads[][2] = {
+        {read(QStringLiteral("7"), TQ_CLIP_MODE_DONT_REPEAT), 7}, {read(QStringLiteral("99"), TQ_INTERLACE_NONE), 99},
+        {read(QStringLiteral("1234"), TRACK_MODEL_DEFAULT), 1234}, {read(QStringLiteral("11"), GAN_LINEAR_CAMERA), 11},
+        {read(QStringLiteral("4000000"), GAN_UNDEFINED_TYPE), 4000000},
+        {read(QStringLiteral("  2 rest"), TQ_COLORSPACE_GAMMA), TQ_COLORSPACE_PANALOG},
+        {read(QStringLiteral("4294967295"), TQ_FALSE), -1}, {read(QStringLiteral("x"), TQ_CLIP_MODE_LOOP), 0},
+        {read(QStringLiteral("-1"), TQ_CLIP_MODE_LOOP), -1},
+        {read(written(static_cast<TQ_BlendMode>(-5)), TQ_BLEND_MODE_DEFAULT), -5}};
+    for (int i = 0; i < int(std::size(reads)); ++i)
+        EXPECT_EQ(reads[i][0], reads[i][1]) << "read row " << i;
 
     // The operators chain and leave the stream after the number.
     QString text = QStringLiteral("3 1 15");
@@ -78,9 +74,10 @@ namespace {
 // Checks one type's registration on first use. Each type is touched here for the first time in the
 // process, so nothing is registered under its name before the first id request.
 template <typename E>
-void expectRegisteredOnFirstUse(char const* name, E sample)
+void expectRegisteredOnFirstUse(char const* name, int iSample)
 {
     SCOPED_TRACE(name);
+    E const sample = static_cast<E>(iSample);
     EXPECT_EQ(QMetaType::type(name), int(QMetaType::UnknownType));
     int const id = qMetaTypeId<E>();
     EXPECT_NE(id, int(QMetaType::UnknownType));
@@ -88,7 +85,6 @@ void expectRegisteredOnFirstUse(char const* name, E sample)
     EXPECT_EQ(QMetaType::type(name), id);
     EXPECT_STREQ(QMetaType::typeName(id), name);
     EXPECT_EQ(QMetaType::sizeOf(id), 4);
-
     QVariant const carried = QVariant::fromValue(sample);
     EXPECT_EQ(carried.userType(), id);
     EXPECT_EQ(carried.value<E>(), sample);
@@ -98,63 +94,48 @@ void expectRegisteredOnFirstUse(char const* name, E sample)
 
 TEST(Enumerations, MetatypesRegisterOnFirstUseUnderTheirNames)
 {
-    expectRegisteredOnFirstUse("Gan_CameraType", GAN_XY_DISTORTION_4);
-    expectRegisteredOnFirstUse("TrackModel", static_cast<_TrackModel>(3));
-    expectRegisteredOnFirstUse("TQ_LUMINANCE_MODEL", static_cast<TQ_LUMINANCE_MODEL>(1));
-    expectRegisteredOnFirstUse("TQ_FILL_ALGORITHM", static_cast<TQ_FILL_ALGORITHM>(2));
-    expectRegisteredOnFirstUse("TQ_ILLUMINATION_MODEL", static_cast<TQ_ILLUMINATION_MODEL>(4));
-    expectRegisteredOnFirstUse("TQ_REMOVESOURCE_MODE", static_cast<TQ_REMOVESOURCE_MODE>(5));
-    expectRegisteredOnFirstUse("TQ_MATTE_SUBTYPE", static_cast<TQ_MATTE_SUBTYPE>(6));
-    expectRegisteredOnFirstUse("TQ_BlendMode", static_cast<TQ_BlendMode>(7));
-    expectRegisteredOnFirstUse("DISTORTION_ALGORITHM", static_cast<_DISTORTION_ALGORITHM>(8));
+    expectRegisteredOnFirstUse<Gan_CameraType>("Gan_CameraType", GAN_XY_DISTORTION_4);
+    expectRegisteredOnFirstUse<_TrackModel>("TrackModel", 3);
+    expectRegisteredOnFirstUse<TQ_LUMINANCE_MODEL>("TQ_LUMINANCE_MODEL", 1);
+    expectRegisteredOnFirstUse<TQ_FILL_ALGORITHM>("TQ_FILL_ALGORITHM", 2);
+    expectRegisteredOnFirstUse<TQ_ILLUMINATION_MODEL>("TQ_ILLUMINATION_MODEL", 4);
+    expectRegisteredOnFirstUse<TQ_REMOVESOURCE_MODE>("TQ_REMOVESOURCE_MODE", 5);
+    expectRegisteredOnFirstUse<TQ_MATTE_SUBTYPE>("TQ_MATTE_SUBTYPE", 6);
+    expectRegisteredOnFirstUse<TQ_BlendMode>("TQ_BlendMode", 7);
+    expectRegisteredOnFirstUse<_DISTORTION_ALGORITHM>("DISTORTION_ALGORITHM", 8);
     // The underscored spellings are never registered.
     EXPECT_EQ(QMetaType::type("_TrackModel"), int(QMetaType::UnknownType));
     EXPECT_EQ(QMetaType::type("_DISTORTION_ALGORITHM"), int(QMetaType::UnknownType));
 }
 
-TEST(Strings, ExportedTablesHoldTheirTexts)
-{
-    char const* const clipModes[] = {"Don't repeat", "Repeat", "Loop", "Ping-pong"};
-    for (int i = 0; i < 4; ++i)
-        EXPECT_STREQ(_TQ_CLIP_MODE_NAME[i], clipModes[i]);
-
-    char const* const sampleOps[] = {"Select Background", "Clean Background", "Clean Foreground",
-                                     "Fine Tuning",       "Matte Sponge",     "Spill Sponge",
-                                     "Make FG Transparent", "Restore Detail", "Spill +",
-                                     "Spill -",           "Matte +",          "Matte -",
-                                     "Detail +",          "Detail -"};
-    for (int i = 0; i < 14; ++i)
-        EXPECT_STREQ(_TQ_PRIMATTE_SAMPLEOP_NAME[i], sampleOps[i]);
-
-    EXPECT_STREQ(_TQ_KOLBEDATA_FORMAT_NAME[0], "Result clips");
-    EXPECT_STREQ(_TQ_KOLBEDATA_FORMAT_NAME[1], "Shake script using pre-rendered clips");
-    EXPECT_STREQ(_TQ_KOLBEDATA_FORMAT_NAME[2], "Shake script using lufex plugins");
-    EXPECT_STREQ(_TQ_KOLBEDATA_FORMAT_EXTENSION[0], ".txt");
-    EXPECT_STREQ(_TQ_KOLBEDATA_FORMAT_EXTENSION[1], ".shk");
-    EXPECT_STREQ(_TQ_KOLBEDATA_FORMAT_EXTENSION[2], ".shk");
-
-    char const* const timecodes[] = {"30 fps non-drop", "30 fps drop-frame", "25 fps", "24 fps"};
-    for (int i = 0; i < 4; ++i)
-        EXPECT_STREQ(_TQ_TIMECODEFORMAT_NAME[i], timecodes[i]);
-
-    EXPECT_STREQ(_TQ_LayerDataFormatName, "Vantrel Layer Script (*.layer)");
-    EXPECT_STREQ(_TQ_LayerDataFormatExtension, ".layer");
-}
-
-TEST(Strings, ModuleNames)
+TEST(Strings, ExportedTablesAndModuleNames)
 {
     using namespace TQ::Strings;
-    EXPECT_STREQ(MODULESTRING_CLIP, "Clip");
-    EXPECT_STREQ(MODULESTRING_CAMERA, "Camera");
-    EXPECT_STREQ(MODULESTRING_LENS, "Lens");
-    EXPECT_STREQ(MODULESTRING_TRACK2D, "Track");
-    EXPECT_STREQ(MODULESTRING_ADJUSTTRACK, "AdjustTrack");
-    EXPECT_STREQ(MODULESTRING_REMOVE, "Remove");
-    EXPECT_STREQ(MODULESTRING_STABILIZE, "Stabilize");
-    EXPECT_STREQ(MODULESTRING_INSERT, "Insert");
-    EXPECT_STREQ(MODULESTRING_WARPER, "Warp");
-    EXPECT_STREQ(MODULESTRING_CAMERASOLVE, "Camera Solve");
-    EXPECT_STREQ(MATTE_CLIP_PREFIX_FORMAT, "Matte for %1");
+    char const* const pairs[][2] = {
+        {_TQ_CLIP_MODE_NAME[0], "Don't repeat"}, {_TQ_CLIP_MODE_NAME[1], "Repeat"},
+        {_TQ_CLIP_MODE_NAME[2], "Loop"}, {_TQ_CLIP_MODE_NAME[3], "Ping-pong"},
+        {_TQ_PRIMATTE_SAMPLEOP_NAME[0], "Select Background"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[1], "Clean Background"},
+        {_TQ_PRIMATTE_SAMPLEOP_NAME[2], "Clean Foreground"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[3], "Fine Tuning"},
+        {_TQ_PRIMATTE_SAMPLEOP_NAME[4], "Matte Sponge"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[5], "Spill Sponge"},
+        {_TQ_PRIMATTE_SAMPLEOP_NAME[6], "Make FG Transparent"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[7], "Restore Detail"},
+        {_TQ_PRIMATTE_SAMPLEOP_NAME[8], "Spill +"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[9], "Spill -"},
+        {_TQ_PRIMATTE_SAMPLEOP_NAME[10], "Matte +"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[11], "Matte -"},
+        {_TQ_PRIMATTE_SAMPLEOP_NAME[12], "Detail +"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[13], "Detail -"},
+        {_TQ_KOLBEDATA_FORMAT_NAME[0], "Result clips"},
+        {_TQ_KOLBEDATA_FORMAT_NAME[1], "Shake script using pre-rendered clips"},
+        {_TQ_KOLBEDATA_FORMAT_NAME[2], "Shake script using lufex plugins"},
+        {_TQ_KOLBEDATA_FORMAT_EXTENSION[0], ".txt"}, {_TQ_KOLBEDATA_FORMAT_EXTENSION[1], ".shk"},
+        {_TQ_KOLBEDATA_FORMAT_EXTENSION[2], ".shk"},
+        {_TQ_TIMECODEFORMAT_NAME[0], "30 fps non-drop"}, {_TQ_TIMECODEFORMAT_NAME[1], "30 fps drop-frame"},
+        {_TQ_TIMECODEFORMAT_NAME[2], "25 fps"}, {_TQ_TIMECODEFORMAT_NAME[3], "24 fps"},
+        {_TQ_LayerDataFormatName, "Vantrel Layer Script (*.layer)"}, {_TQ_LayerDataFormatExtension, ".layer"},
+        {MODULESTRING_CLIP, "Clip"}, {MODULESTRING_CAMERA, "Camera"}, {MODULESTRING_LENS, "Lens"},
+        {MODULESTRING_TRACK2D, "Track"}, {MODULESTRING_ADJUSTTRACK, "AdjustTrack"},
+        {MODULESTRING_REMOVE, "Remove"}, {MODULESTRING_STABILIZE, "Stabilize"}, {MODULESTRING_INSERT, "Insert"},
+        {MODULESTRING_WARPER, "Warp"}, {MODULESTRING_CAMERASOLVE, "Camera Solve"},
+        {MATTE_CLIP_PREFIX_FORMAT, "Matte for %1"}};
+    for (auto const& pair : pairs)
+        EXPECT_STREQ(pair[0], pair[1]);
     EXPECT_EQ(QString::fromLatin1(MATTE_CLIP_PREFIX_FORMAT).arg(QStringLiteral("Plate")),
               QStringLiteral("Matte for Plate"));
 }

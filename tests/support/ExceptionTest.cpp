@@ -6,55 +6,40 @@
 #include <memory>
 #include <sstream>
 #include <string>
-#include <vector>
 
 namespace {
 
 // The report as a std::string, including the trailing NUL that std::ends puts into it.
 std::string dumpOf(TQ_Exception& exception)
 {
-    char const* text = exception.Dump();
-    std::string report(text);
-    return report + '\0';
+    return std::string(exception.Dump()) + '\0';
 }
 
-std::string expectedReport(std::string const& banner, std::string const& file, int line,
-                           std::string const& context, std::string const& message)
+template <typename T>
+std::unique_ptr<TQ_Exception> make()
 {
-    return banner + "File:" + file + ":" + std::to_string(line) + ":\nContext: " + context +
-           "\nMessage: " + message + "\n\n" + '\0';
+    return std::make_unique<T>("a", 7, "b", "c");
 }
 
 } // namespace
 
 TEST(Exception, EachClassDumpsItsBannerThenTheFields)
 {
-    struct Case {
-        std::unique_ptr<TQ_Exception> exception;
-        char const* banner;
-    };
-    std::vector<Case> cases;
-    auto add = [&cases](TQ_Exception* exception, char const* banner) {
-        cases.push_back(Case{std::unique_ptr<TQ_Exception>(exception), banner});
-    };
-    add(new TQ_Exception("a", 7, "b", "c"), "===> TQ_Exception\n");
-    add(new TQ_ExternalException("a", 7, "b", "c"), "===> External exception thrown.\n");
-    add(new TQ_GandalfError("a", 7, "b", "c"), "===> Gandalf library error.\n");
-    add(new TQ_UnexpectedException("a", 7, "b", "c"), "===> Exception specification violated. \n");
-    add(new TQ_NotImplemented("a", 7, "b", "c"), "===> Not implemented (sorry)\n");
-    add(new TQ_BadFile("a", 7, "b", "c"), "===> Bad file provided \n");
-    add(new TQ_BadArgument("a", 7, "b", "c"), "===> Bad argument provided \n");
-    add(new TQ_BadState("a", 7, "b", "c"), "===> Bad state \n");
-    add(new TQ_BadSize("a", 7, "b", "c"), "===> Bad array(container) size \n");
-    add(new TQ_OutOfRange("a", 7, "b", "c"), "===> Index out of range\n");
-    add(new TQ_BadAlloc("a", 7, "b", "c"), "===> Memory allocation failed\n");
-    add(new TQ_OperationFailed("a", 7, "b", "c"), "===> Operation Failed\n");
-    add(new TQ_AssertionFailed("a", 7, "b", "c"), "===> Assertion Failed\n");
-
-    for (Case& c : cases) {
+    struct { std::unique_ptr<TQ_Exception> (*make)(); char const* banner; } const cases[] = {
+        {make<TQ_Exception>, "===> TQ_Exception\n"},
+        {make<TQ_ExternalException>, "===> External exception thrown.\n"},
+        {make<TQ_GandalfError>, "===> Gandalf library error.\n"},
+        {make<TQ_UnexpectedException>, "===> Exception specification violated. \n"},
+        {make<TQ_NotImplemented>, "===> Not implemented (sorry)\n"},
+        {make<TQ_BadFile>, "===> Bad file provided \n"}, {make<TQ_BadArgument>, "===> Bad argument provided \n"},
+        {make<TQ_BadState>, "===> Bad state \n"}, {make<TQ_BadSize>, "===> Bad array(container) size \n"},
+        {make<TQ_OutOfRange>, "===> Index out of range\n"}, {make<TQ_BadAlloc>, "===> Memory allocation failed\n"},
+        {make<TQ_OperationFailed>, "===> Operation Failed\n"}, {make<TQ_AssertionFailed>, "===> Assertion Failed\n"}};
+    for (auto const& c : cases) {
+        std::unique_ptr<TQ_Exception> const exception = c.make();
         // Through the base reference: the banner must come from the dynamic type.
-        EXPECT_EQ(dumpOf(*c.exception), expectedReport(c.banner, "a", 7, "b", "c")) << c.banner;
-        EXPECT_STREQ(c.exception->what(), "c");
+        EXPECT_EQ(dumpOf(*exception), c.banner + std::string("File:a:7:\nContext: b\nMessage: c\n\n") + '\0');
+        EXPECT_STREQ(exception->what(), "c");
     }
 }
 

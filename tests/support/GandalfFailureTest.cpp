@@ -10,9 +10,7 @@ TEST(GandalfFailure, LeavesExactlyOneEntryAndReturnsFalse)
     EXPECT_FALSE(bGandalfFailure("vFill", GAN_ERROR_ILLEGAL_ARGUMENT, "lut.cpp", 31, "size 0", 5));
     ASSERT_EQ(gan_err_get_error_count(), 1);
 
-    char const* function = nullptr;
-    char const* file = nullptr;
-    char const* message = nullptr;
+    char const *function = nullptr, *file = nullptr, *message = nullptr;
     int code = 0, line = 0, number = 0;
     ASSERT_EQ(gan_err_get_error(0, &function, &code, &file, &line, &message, &number), 1);
     EXPECT_STREQ(function, "vFill");

@@ -47,19 +47,19 @@ TEST(ShapeDataFormat, RegistryFillsLazilyAndListsInLabelOrder)
                  "combustion");
 
     // All ten, with their records.
-    expectFormat(TQ_ShapeDataFormat::NUKE_ROTO(), "Nuke v6.2 Roto (*.nk)", ".nk", true, "nuke");
-    expectFormat(TQ_ShapeDataFormat::NUKE_ROTO_PAINT(), "Nuke Roto Paint (*.nk)", ".nk", true, "nuke");
-    expectFormat(TQ_ShapeDataFormat::VANTREL_SHAPE_SCRIPT(), "Vantrel Layer Script (*.layer)", ".layer", false,
-                 "generic");
-    expectFormat(TQ_ShapeDataFormat::FC_LUMBA_SHAPE(), "lumba shape data for Final Cut", ".xml", true, "finalcut");
-    expectFormat(TQ_ShapeDataFormat::AE_LUMBA_SHAPE(), "lumba shape data for AE", ".shape4ae", true,
-                 "aftereffects");
-    expectFormat(TQ_ShapeDataFormat::SHAKE_SSF_SCRIPT(), "Shake Rotoshape (*.ssf)", ".ssf", true, "shake");
-    expectFormat(TQ_ShapeDataFormat::FLAME_BATCH_SCRIPT(), "Flame Action Script (*.action)", ".action", false,
-                 "ifffse");
-    expectFormat(TQ_ShapeDataFormat::FLAME_GMASK_SCRIPT(), "Flame GMask Script (*.gmask)", ".gmask", false,
-                 "ifffse");
-    expectFormat(TQ_ShapeDataFormat::SHAKE_ROTOSHAPE_SCRIPT(), "Shake Script (*.shk)", ".shk", false, "shake");
+    struct { TQ_ShapeDataFormat const& format; char const *filter, *extension; bool bFlag; char const* host; } const
+        rows[] = {
+            {TQ_ShapeDataFormat::NUKE_ROTO(), "Nuke v6.2 Roto (*.nk)", ".nk", true, "nuke"},
+            {TQ_ShapeDataFormat::NUKE_ROTO_PAINT(), "Nuke Roto Paint (*.nk)", ".nk", true, "nuke"},
+            {TQ_ShapeDataFormat::VANTREL_SHAPE_SCRIPT(), "Vantrel Layer Script (*.layer)", ".layer", false, "generic"},
+            {TQ_ShapeDataFormat::FC_LUMBA_SHAPE(), "lumba shape data for Final Cut", ".xml", true, "finalcut"},
+            {TQ_ShapeDataFormat::AE_LUMBA_SHAPE(), "lumba shape data for AE", ".shape4ae", true, "aftereffects"},
+            {TQ_ShapeDataFormat::SHAKE_SSF_SCRIPT(), "Shake Rotoshape (*.ssf)", ".ssf", true, "shake"},
+            {TQ_ShapeDataFormat::FLAME_BATCH_SCRIPT(), "Flame Action Script (*.action)", ".action", false, "ifffse"},
+            {TQ_ShapeDataFormat::FLAME_GMASK_SCRIPT(), "Flame GMask Script (*.gmask)", ".gmask", false, "ifffse"},
+            {TQ_ShapeDataFormat::SHAKE_ROTOSHAPE_SCRIPT(), "Shake Script (*.shk)", ".shk", false, "shake"}};
+    for (auto const& r : rows)
+        expectFormat(r.format, r.filter, r.extension, r.bFlag, r.host);
 
     QStringList labels;
     for (auto const& entry : all) {
