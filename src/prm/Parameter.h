@@ -112,8 +112,8 @@ public:
     virtual bool supportsExtrapolationFromNoKeys() const;
     ~Parameter() override;
 
-    /// The text of key `index` (no bounds test: the caller passes a valid index).
-    QString indexSuffixString(int index) const;
+    /// The text of key `index`, without prefix or end of line; the empty string for an index out of range.
+    virtual QString indexSuffixString(int index) const;
     /// `QString` only: text reading and writing of one value.
     void setFromString(QString& value, QString& text);
     void writeValue(QTextStream& out, QString const& value) const;
