@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
 
 namespace {
 
@@ -73,14 +74,11 @@ TEST(FilmType, ValueOperations)
     EXPECT_EQ(0.0, film("16mm").defPixelAspectRatio());
     EXPECT_EQ(0.0, film("70mm IMAX").defPixelAspectRatio());
 
-    EXPECT_TRUE(filmTypeMatchesHeight(pal, 576));
-    EXPECT_TRUE(filmTypeMatchesHeight(pal, 0));
-    EXPECT_FALSE(filmTypeMatchesHeight(pal, 480));
-    EXPECT_FALSE(filmTypeMatchesHeight(film("16mm"), 428));
-    TQ::FilmType const ntsc = film("NTSC");
-    EXPECT_TRUE(filmTypeMatchesSize(ntsc, QSize(720, 480)));
-    EXPECT_FALSE(filmTypeMatchesSize(ntsc, QSize(720, 576)));
-    EXPECT_TRUE(filmTypeMatchesSize(ntsc, QSize(0, 0)));
+    for (auto [name, h, bMatch] : {std::tuple{"PAL", 576, true}, {"PAL", 0, true}, {"PAL", 480, false},
+                                   {"16mm", 428, false}})
+        EXPECT_EQ(bMatch, filmTypeMatchesHeight(film(name), h)) << name << " " << h;
+    for (auto [w, h, bMatch] : {std::tuple{720, 480, true}, {720, 576, false}, {0, 0, true}})
+        EXPECT_EQ(bMatch, filmTypeMatchesSize(film("NTSC"), QSize(w, h))) << w << "x" << h;
 }
 
 TEST(FilmType, BestMatchForSize)
