@@ -1,9 +1,7 @@
-#include "ChangeRecorder.h"
+#include "Fixtures.h"
 #include "prm/CubeRoots.h"
 #include "prm/Interpolate.h"
 #include "prm/NumericParameter.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
@@ -21,6 +19,17 @@ NumericParameter<T> twoKeys(T v0, T v1, Interpolation kind, Extrapolation rule)
     p.vSetValue(v0, 0.0f);
     p.vSetValue(v1, 10.0f);
     return p;
+}
+
+void vSetHandles(NumericParameter<double>& p, unsigned int index, double outTime, double outValue, double inTime,
+                 double inValue)
+{
+    IType record = p.interpolationData(index);
+    record.dOutTime = outTime;
+    record.dOutValue = outValue;
+    record.dInTime = inTime;
+    record.dInValue = inValue;
+    p.vSetInterpolationData(record, index);
 }
 
 /// A custom rule that reports the side and supports reading without keys.
@@ -50,9 +59,8 @@ TEST(Curve, CubeRootsFindsTheRealRoots)
     ASSERT_EQ(cuberoots(c, roots), 3);
     double found[3] = {roots[0][0], roots[1][0], roots[2][0]};
     std::sort(found, found + 3);
-    EXPECT_NEAR(found[0], 1.0, 1e-12);
-    EXPECT_NEAR(found[1], 2.0, 1e-12);
-    EXPECT_NEAR(found[2], 3.0, 1e-12);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_NEAR(found[i], i + 1.0, 1e-12);
 
     double const one[3] = {-1.0, 1.0, 0.0}; // s^3 + s - 1: one real root
     ASSERT_EQ(cuberoots(one, roots), 1);
@@ -64,25 +72,17 @@ TEST(Curve, CubeRootsFindsTheRealRoots)
 
 TEST(Curve, StepLinearAndBezierBetweenKeys)
 {
-    NumericParameter<double> step = twoKeys(0.0, 10.0, InterpolationStep, ExtrapolationHold);
-    EXPECT_EQ(step.value(9.9f, nullptr), 0.0);
-    EXPECT_EQ(step.value(10.0f, nullptr), 10.0);
-
-    NumericParameter<double> linear = twoKeys(0.0, 10.0, InterpolationLinear, ExtrapolationHold);
-    EXPECT_DOUBLE_EQ(linear.value(2.5f, nullptr), 2.5);
-
-    NumericParameter<int> integer = twoKeys(0, 10, InterpolationLinear, ExtrapolationHold);
-    EXPECT_EQ(integer.value(4.9f, nullptr), 4); // truncation, not rounding
-    EXPECT_EQ(integer.value(9.99f, nullptr), 9);
+    expectReads(twoKeys(0.0, 10.0, InterpolationStep, ExtrapolationHold), {{9.9f, 0.0}, {10.0f, 10.0}});
+    EXPECT_DOUBLE_EQ(twoKeys(0.0, 10.0, InterpolationLinear, ExtrapolationHold).value(2.5f, nullptr), 2.5);
+    // Truncation, not rounding.
+    expectReads(twoKeys(0, 10, InterpolationLinear, ExtrapolationHold), {{4.9f, 4}, {9.99f, 9}});
 
     // Default handles lie on the chord, so the curve starts straight.
     NumericParameter<double> bezier = twoKeys(0.0, 10.0, InterpolationBezier, ExtrapolationHold);
     EXPECT_NEAR(bezier.value(5.0f, nullptr), 5.0, 1e-9);
     EXPECT_NEAR(bezier.value(1.0f, nullptr), 1.0, 1e-9);
-    IType flat = bezier.interpolationData(0);
-    flat.dOutValue = 0.0;
-    flat.dInValue = 0.0;
-    bezier.vSetInterpolationData(flat, 0);
+    IType const chord = bezier.interpolationData(0);
+    vSetHandles(bezier, 0, chord.dOutTime, 0.0, chord.dInTime, 0.0);
     double const early = bezier.value(1.0f, nullptr);
     EXPECT_GT(early, 0.0);
     EXPECT_LT(early, 1.0); // flat handles ease in
@@ -91,12 +91,9 @@ TEST(Curve, StepLinearAndBezierBetweenKeys)
 
     // Handles of exactly a third of the span in time leave no root to find: the zero value.
     NumericParameter<double> third(true, "T", 0.0, -1.0, 100.0, InterpolationBezier, ExtrapolationHold);
-    third.vSetValue(5.0, 0.0f);
-    third.vSetValue(7.0, 12.0f);
-    IType record = third.interpolationData(0);
-    record.dOutTime = 4.0;
-    record.dInTime = -4.0;
-    third.vSetInterpolationData(record, 0);
+    withKeys(third, {{0.0f, 5.0}, {12.0f, 7.0}});
+    IType const fresh = third.interpolationData(0);
+    vSetHandles(third, 0, 4.0, fresh.dOutValue, -4.0, fresh.dInValue);
     EXPECT_EQ(third.value(6.0f, nullptr), 0.0);
     third.vSetMinimum(2.0); // and the clamp applies to it
     EXPECT_EQ(third.value(6.0f, nullptr), 2.0);
@@ -104,54 +101,40 @@ TEST(Curve, StepLinearAndBezierBetweenKeys)
 
 TEST(Curve, ExtrapolationRules)
 {
-    NumericParameter<double> hold = twoKeys(2.0, 4.0, InterpolationLinear, ExtrapolationHold);
-    EXPECT_EQ(hold.value(-5.0f, nullptr), 2.0);
-    EXPECT_EQ(hold.value(50.0f, nullptr), 4.0);
-
+    expectReads(twoKeys(2.0, 4.0, InterpolationLinear, ExtrapolationHold), {{-5.0f, 2.0}, {50.0f, 4.0}});
     NumericParameter<double> linear = twoKeys(2.0, 4.0, InterpolationLinear, ExtrapolationLinear);
     EXPECT_DOUBLE_EQ(linear.value(-10.0f, nullptr), 0.0);
     EXPECT_DOUBLE_EQ(linear.value(20.0f, nullptr), 6.0);
-
-    NumericParameter<double> stepped = twoKeys(2.0, 4.0, InterpolationStep, ExtrapolationLinear);
-    EXPECT_EQ(stepped.value(20.0f, nullptr), 4.0); // a stepped end segment has no slope
+    // A stepped end segment has no slope.
+    expectReads(twoKeys(2.0, 4.0, InterpolationStep, ExtrapolationLinear), {{20.0f, 4.0}});
 
     // After a Bezier segment the line follows the end key's handle.
     NumericParameter<double> bezier = twoKeys(0.0, 10.0, InterpolationBezier, ExtrapolationLinear);
-    IType handles = bezier.interpolationData(0);
-    handles.dInTime = -1.0;
-    handles.dInValue = -2.0;
-    handles.dOutTime = 1.0;
-    handles.dOutValue = 0.5;
-    bezier.vSetInterpolationData(handles, 0);
+    vSetHandles(bezier, 0, 1.0, 0.5, -1.0, -2.0);
     EXPECT_DOUBLE_EQ(bezier.value(12.0f, nullptr), 14.0);
     EXPECT_DOUBLE_EQ(bezier.value(-2.0f, nullptr), -1.0);
 
     NumericParameter<double> one(true, "One", 0.0, -10.0, 10.0, InterpolationLinear, ExtrapolationLinear);
     one.vSetValue(3.0, 1.0f);
-    EXPECT_EQ(one.value(8.0f, nullptr), 3.0); // one key: linear holds
+    expectReads(one, {{8.0f, 3.0}}); // one key: linear holds
 
     NumericParameter<double> unset = twoKeys(2.0, 4.0, InterpolationLinear, ExtrapolationUnset);
-    EXPECT_EQ(unset.value(20.0f, nullptr), 0.0);
+    expectReads(unset, {{20.0f, 0.0}});
     unset.vSetMinimum(1.0);
-    EXPECT_EQ(unset.value(20.0f, nullptr), 1.0);
+    expectReads(unset, {{20.0f, 1.0}});
 
     // An unset end segment is sampled a tenth of the way in, which reads the zero value.
-    NumericParameter<double> sampled = twoKeys(2.0, 4.0, InterpolationUnset, ExtrapolationLinear);
-    EXPECT_DOUBLE_EQ(sampled.value(-1.0f, nullptr), 4.0);
+    EXPECT_DOUBLE_EQ(twoKeys(2.0, 4.0, InterpolationUnset, ExtrapolationLinear).value(-1.0f, nullptr), 4.0);
 }
 
 TEST(Curve, FreshBezierHandlesFollowTheValueTypesArithmetic)
 {
-    NumericParameter<unsigned int> falling = twoKeys(10u, 0u, InterpolationBezier, ExtrapolationHold);
-    IType const record = falling.interpolationData(0);
+    IType const record = twoKeys(10u, 0u, InterpolationBezier, ExtrapolationHold).interpolationData(0);
     EXPECT_DOUBLE_EQ(record.dOutTime, 1.0);
     EXPECT_NEAR(record.dOutValue, 4294967286.0 * 0.1, 1e-3);
-
-    NumericParameter<unsigned char> small = twoKeys<unsigned char>(10, 0, InterpolationBezier, ExtrapolationHold);
-    EXPECT_DOUBLE_EQ(small.interpolationData(0).dOutValue, -1.0);
-
-    NumericParameter<int> signedFall = twoKeys(10, 0, InterpolationBezier, ExtrapolationHold);
-    EXPECT_DOUBLE_EQ(signedFall.interpolationData(0).dInValue, 1.0);
+    EXPECT_DOUBLE_EQ(
+        twoKeys<unsigned char>(10, 0, InterpolationBezier, ExtrapolationHold).interpolationData(0).dOutValue, -1.0);
+    EXPECT_DOUBLE_EQ(twoKeys(10, 0, InterpolationBezier, ExtrapolationHold).interpolationData(0).dInValue, 1.0);
 }
 
 TEST(Curve, ClampingOrderNaNAndCrossedLimits)
@@ -159,19 +142,15 @@ TEST(Curve, ClampingOrderNaNAndCrossedLimits)
     NumericParameter<double> p(true, "P", 50.0, 0.0, 10.0, InterpolationLinear, ExtrapolationHold);
     EXPECT_EQ(p.staticValue(), 50.0); // the constructor does not clamp
     EXPECT_EQ(p.value(0.0f, nullptr), 10.0);
-    p.vSetValue(20.0, 1.0f);
-    EXPECT_EQ(p.keyframeValue(0), 10.0);
-    p.vSetValue(std::nan(""), 2.0f);
-    EXPECT_EQ(p.keyframeValue(1), 0.0);
+    withKeys(p, {{1.0f, 20.0}, {2.0f, std::nan("")}});
+    EXPECT_EQ(keysOf(p), (Keys<decltype(p)>{{1.0f, 10.0}, {2.0f, 0.0}}));
 
     // A move stores unclamped; reads clamp, the double view of the key does not.
     EXPECT_EQ(p.moveAndChangeKeyframe(99.0, 1.0f, 1.5f), 0);
     EXPECT_EQ(p.keyframeValueAsDouble(0), 99.0);
     EXPECT_EQ(p.value(1.5f, nullptr), 10.0);
-
     p.vSetMinimum(20.0); // crossed: the minimum wins everywhere
-    EXPECT_EQ(p.value(1.5f, nullptr), 20.0);
-    EXPECT_EQ(p.value(100.0f, nullptr), 20.0);
+    expectReads(p, {{1.5f, 20.0}, {100.0f, 20.0}});
 
     NumericParameter<unsigned int> u(true, "U", 5u, 0u, 100u, InterpolationLinear, ExtrapolationHold);
     u.setValueFromDouble(-1.0, 0.0f); // converted first: 4294967295, then clamped to the maximum
@@ -214,11 +193,11 @@ TEST(Curve, CustomMethodsAndTheirLists)
     EXPECT_EQ(p.CustomExtrapolationMethodFromNameIndex(0), ExtrapolationCustomFirst);
     EXPECT_EQ(p.CustomInterpolationMethodFromNameIndex(2), Interpolation(6));
     EXPECT_EQ(p.customExtrapolationMethod(ExtrapolationCustomFirst), &p.method);
-    EXPECT_EQ(p.customExtrapolationMethod(Extrapolation(4)), nullptr);
-    EXPECT_EQ(p.customExtrapolationMethod(ExtrapolationHold), nullptr);
-    EXPECT_EQ(p.customInterpolationMethod(Interpolation(4)), nullptr);
-    EXPECT_EQ(p.customInterpolationMethod(Interpolation(std::numeric_limits<int>::min())), nullptr);
-    EXPECT_EQ(p.customExtrapolationMethod(Extrapolation(std::numeric_limits<int>::min())), nullptr);
+    int const lowest = std::numeric_limits<int>::min();
+    for (int kind : {4, int(ExtrapolationHold), lowest})
+        EXPECT_EQ(p.customExtrapolationMethod(Extrapolation(kind)), nullptr) << kind;
+    for (int kind : {4, lowest})
+        EXPECT_EQ(p.customInterpolationMethod(Interpolation(kind)), nullptr) << kind;
 
     p.vSetExtrapolationAfter(ExtrapolationCustomFirst);
     EXPECT_FALSE(p.supportsExtrapolationFromNoKeys());
@@ -227,17 +206,16 @@ TEST(Curve, CustomMethodsAndTheirLists)
     EXPECT_EQ(p.value(3.0f, nullptr), 1003.0); // asked without keys, with the bool false
 
     p.vSetValue(1.0, 0.0f);
-    EXPECT_EQ(p.value(2.0f, nullptr), 1002.0);
-    EXPECT_EQ(p.value(-2.0f, nullptr), 1.0); // before: hold
+    expectReads(p, {{2.0f, 1002.0}, {-2.0f, 1.0}}); // before: hold
     p.vSetExtrapolationBefore(Extrapolation(9)); // no such method: the zero value
-    EXPECT_EQ(p.value(-2.0f, nullptr), 0.0);
+    expectReads(p, {{-2.0f, 0.0}});
 
     // A custom kind without its method reads as the engine's own curve reads it.
     p.vSetValue(3.0, 10.0f);
     p.vSetInterpolation(InterpolationCustomFirst, 0.0f);
-    EXPECT_EQ(p.value(5.0f, nullptr), 1.0);
+    expectReads(p, {{5.0f, 1.0}});
     p.vSetInterpolation(Interpolation(5), 0.0f);
-    EXPECT_EQ(p.value(5.0f, nullptr), 0.0);
+    expectReads(p, {{5.0f, 0.0}});
 
     CustomParameter copy(p);
     NumericParameter<double> const& base = copy;
@@ -252,11 +230,9 @@ TEST(Curve, ScalingByAFactor)
     f *= 2.0;
     EXPECT_EQ(f.staticValue(), 3.0f); // no keys: nothing scaled, nothing raised
     EXPECT_TRUE(rec.events.empty());
-    f.vSetValue(10.0f, 0.0f);
-    f.vSetValue(60.0f, 1.0f);
+    withKeys(f, {{0.0f, 10.0f}, {1.0f, 60.0f}});
     f *= 2.0;
-    EXPECT_EQ(f.keyframeValue(0), 20.0f);
-    EXPECT_EQ(f.keyframeValue(1), 100.0f); // clamped
+    EXPECT_EQ(keysOf(f), (Keys<decltype(f)>{{0.0f, 20.0f}, {1.0f, 100.0f}})); // clamped
 
     NumericParameter<unsigned int> u(true, "U", 0u, 0u, 1000u, InterpolationLinear, ExtrapolationHold);
     u.vSetValue(7u, 0.0f);

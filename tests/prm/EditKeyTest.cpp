@@ -1,8 +1,10 @@
+#include "Fixtures.h"
 #include "bsc/Command.h"
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
 
-#include <gtest/gtest.h>
+#include <algorithm>
+#include <tuple>
 
 namespace {
 
@@ -11,10 +13,7 @@ using Curve = Prm::NumericParameter<double>;
 Curve curve()
 {
     Curve parameter(true, "Curve", 0.5, -100.0, 100.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
-    parameter.vSetValue(0.0, 0.0f);
-    parameter.vSetValue(10.0, 10.0f);
-    parameter.vSetValue(0.0, 20.0f);
-    return parameter;
+    return withKeys(parameter, {{0.0f, 0.0}, {10.0f, 10.0}, {20.0f, 0.0}});
 }
 
 } // namespace
@@ -56,9 +55,7 @@ TEST(EditKey, DeletedKeyComesBackWithoutItsHandles)
 {
     Curve parameter = curve();
     Prm::IType bezier = parameter.interpolationData(1);
-    bezier.eType = Prm::InterpolationBezier;
-    bezier.dOutTime = 3.0;
-    bezier.dOutValue = 7.0;
+    std::tie(bezier.eType, bezier.dOutTime, bezier.dOutValue) = std::make_tuple(Prm::InterpolationBezier, 3.0, 7.0);
     parameter.vSetInterpolationData(bezier, 1);
 
     Bsc::CompositeCommand composite;
@@ -82,26 +79,21 @@ TEST(EditKey, DeleteAllGoesKeyByKeyAndLosesTheStaticValue)
 {
     Curve parameter = curve();
     EXPECT_EQ(parameter.staticValue(), 0.5);
-    int allDeleted = 0;
-    QObject::connect(&parameter, &Prm::ParameterWithoutType::changed, [&allDeleted](Prm::ParameterChange& change) {
-        if (change.kind() == Prm::ParameterChange::AllKeyframesDeleted)
-            ++allDeleted;
-    });
+    ChangeRecorder rec(parameter);
 
     Bsc::CompositeCommand composite;
     parameter.vDeleteAllKeyframesCommand(composite);
     composite.doIt();
     EXPECT_EQ(parameter.keyframeCount(), 0u);
-    EXPECT_EQ(allDeleted, 0);
+    EXPECT_EQ(std::count_if(rec.events.begin(), rec.events.end(),
+                            [](auto const& event) { return event.first == Prm::ParameterChange::AllKeyframesDeleted; }),
+              0);
     // The last key went alone, so its value became the static value.
     EXPECT_EQ(parameter.staticValue(), 0.0);
     EXPECT_EQ(parameter.value(100.0f, nullptr), 0.0);
 
     composite.undoIt();
-    ASSERT_EQ(parameter.keyframeCount(), 3u);
-    EXPECT_EQ(parameter.keyframeValue(0), 0.0);
-    EXPECT_EQ(parameter.keyframeValue(1), 10.0);
-    EXPECT_EQ(parameter.keyframeValue(2), 0.0);
+    EXPECT_EQ(keysOf(parameter), (Keys<Curve>{{0.0f, 0.0}, {10.0f, 10.0}, {20.0f, 0.0}}));
     EXPECT_EQ(parameter.staticValue(), 0.0);
 
     // The keys recorded at the first run are deleted again, and a key added since stays.

@@ -1,19 +1,18 @@
+#include "Fixtures.h"
 #include "bsc/Command.h"
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
 
-#include <gtest/gtest.h>
+#include <tuple>
 
 namespace {
 
 using Linear = Prm::NumericParameter<double>;
 
-Linear keyed(std::initializer_list<std::pair<float, double>> keys)
+Linear keyed(Keys<Linear> const& keys)
 {
     Linear parameter(true, "Gain", 0.5, -100.0, 100.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
-    for (auto const& key : keys)
-        parameter.vSetValue(key.second, key.first);
-    return parameter;
+    return withKeys(parameter, keys);
 }
 
 } // namespace
@@ -91,10 +90,7 @@ TEST(EditValue, ValueIsLimitedWhenTheEditRuns)
     count.vSetDoubleValueCommand(3.9, 3.0f, composite);
     count.vSetDoubleValueCommand(-2.5, 4.0f, composite);
     composite.doIt();
-    EXPECT_EQ(count.keyframeValue(0), 5);
-    EXPECT_EQ(count.keyframeValue(1), 5);
-    EXPECT_EQ(count.keyframeValue(2), 3);
-    EXPECT_EQ(count.keyframeValue(3), 0);
+    EXPECT_EQ(keysOf(count), (Keys<decltype(count)>{{1.0f, 5}, {2.0f, 5}, {3.0f, 3}, {4.0f, 0}}));
     composite.undoIt();
     EXPECT_EQ(count.keyframeCount(), 0u);
 
@@ -124,9 +120,7 @@ TEST(EditValue, InterpolationAndExtrapolationEditsUndo)
     Bsc::CompositeCommand composite;
     parameter.vSetInterpolationCommand(Prm::InterpolationStep, 10.0f, composite);
     Prm::IType bezier = parameter.interpolationData(0);
-    bezier.eType = Prm::InterpolationBezier;
-    bezier.dOutTime = 2.0;
-    bezier.dOutValue = 4.0;
+    std::tie(bezier.eType, bezier.dOutTime, bezier.dOutValue) = std::make_tuple(Prm::InterpolationBezier, 2.0, 4.0);
     parameter.vSetInterpolationDataCommand(bezier, 0, composite);
     parameter.vSetExtrapolationBeforeCommand(Prm::ExtrapolationLinear, composite);
     // A rule of its own per end, so that an edit of the wrong end shows.

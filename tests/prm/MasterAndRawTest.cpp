@@ -1,10 +1,8 @@
-#include "ChangeRecorder.h"
+#include "Fixtures.h"
 #include "bsc/AbstractData.h"
 #include "prm/BasicParameter.h"
 #include "prm/NumericParameter.h"
 #include "prm/ParameterSet.h"
-
-#include <gtest/gtest.h>
 
 #include <memory>
 

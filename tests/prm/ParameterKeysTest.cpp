@@ -1,8 +1,6 @@
-#include "ChangeRecorder.h"
+#include "Fixtures.h"
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 
@@ -27,9 +25,7 @@ using Probe = ProbeParameter<double>;
 Probe linearCurve()
 {
     Probe p(0.0, -1000.0, 1000.0, InterpolationLinear, ExtrapolationHold);
-    p.vSetValue(0.0, 0.0f);
-    p.vSetValue(10.0, 10.0f);
-    p.vSetValue(30.0, 20.0f);
+    withKeys(p, {{0.0f, 0.0}, {10.0f, 10.0}, {20.0f, 30.0}});
     return p;
 }
 
@@ -46,7 +42,6 @@ TEST(ParameterKeys, ConstructorsSetNamesValuesAndRules)
     EXPECT_FALSE(two.isHidden());
 
     Parameter<float> five(false, "Blur", 2.5f, InterpolationLinear, ExtrapolationLinear);
-    EXPECT_EQ(five.staticValue(), 2.5f);
     EXPECT_EQ(five.defaultValue(), 2.5f);
     EXPECT_FALSE(five.isKeyframed());
     EXPECT_EQ(five.extrapolationAfter(), ExtrapolationHold); // not keyframed
@@ -65,18 +60,11 @@ TEST(ParameterKeys, ConstructorsSetNamesValuesAndRules)
 TEST(ParameterKeys, ReadsAtBetweenAndBeyondKeysOfAPlainParameter)
 {
     Parameter<double> p(true, "P", 7.0, InterpolationLinear, ExtrapolationLinear);
-    EXPECT_EQ(p.value(3.0f, nullptr), 7.0); // no keys: the static value, not the default
     p.vSetDefault(99.0);
-    EXPECT_EQ(p.value(3.0f, nullptr), 7.0);
-    p.vSetValue(1.0, 0.0f);
-    p.vSetValue(5.0, 10.0f);
-    p.vSetValue(2.0, 20.0f);
+    expectReads(p, {{3.0f, 7.0}}); // no keys: the static value, not the default
+    withKeys(p, {{0.0f, 1.0}, {10.0f, 5.0}, {20.0f, 2.0}});
     // A plain parameter never interpolates or extrapolates, whatever the records and rules say.
-    EXPECT_EQ(p.value(5.0f, nullptr), 1.0);
-    EXPECT_EQ(p.value(15.0f, nullptr), 5.0);
-    EXPECT_EQ(p.value(-5.0f, nullptr), 1.0);
-    EXPECT_EQ(p.value(50.0f, nullptr), 2.0);
-    EXPECT_EQ(p.value(10.0f, nullptr), 5.0);
+    expectReads(p, {{5.0f, 1.0}, {15.0f, 5.0}, {-5.0f, 1.0}, {50.0f, 2.0}, {10.0f, 5.0}});
 }
 
 TEST(ParameterKeys, SetValueInsertsInOrderAndSignals)
@@ -86,17 +74,14 @@ TEST(ParameterKeys, SetValueInsertsInOrderAndSignals)
     EXPECT_EQ(p.vSetValue(5, 10.0f), 0);
     EXPECT_EQ(p.vSetValue(3, 0.0f), 0);
     EXPECT_EQ(p.vSetValue(4, 5.0f), 1);
-    EXPECT_EQ(p.keyframeCount(), 3u);
-    EXPECT_EQ(p.keyframeTime(0), 0.0f);
-    EXPECT_EQ(p.keyframeTime(2), 10.0f);
+    EXPECT_EQ(keysOf(p), (Keys<decltype(p)>{{0.0f, 3}, {5.0f, 4}, {10.0f, 5}}));
     ASSERT_EQ(rec.events.size(), 6u);
-    EXPECT_EQ(rec.events[4], ChangeRecorder::Event(Change::KeyframeAdded, 1));
-    EXPECT_EQ(rec.events[5], ChangeRecorder::Event(Change::ValueChanged, 1));
+    EXPECT_EQ(Events(rec.events.begin() + 4, rec.events.end()),
+              (Events{{Change::KeyframeAdded, 1}, {Change::ValueChanged, 1}}));
 
     rec.events.clear();
     EXPECT_EQ(p.vSetValue(8, 5.0f), 1); // same time to the last bit: only ValueChanged
-    ASSERT_EQ(rec.events.size(), 1u);
-    EXPECT_EQ(rec.events[0], ChangeRecorder::Event(Change::ValueChanged, 1));
+    EXPECT_EQ(rec.events, (Events{{Change::ValueChanged, 1}}));
     EXPECT_EQ(p.vSetValue(9, std::nextafter(5.0f, 6.0f)), 2); // one float step away: a new key
     EXPECT_EQ(p.keyframeCount(), 4u);
 
@@ -105,29 +90,23 @@ TEST(ParameterKeys, SetValueInsertsInOrderAndSignals)
     EXPECT_EQ(flat.vSetValue(6, 1.0f), -1);
     EXPECT_EQ(flat.staticValue(), 6);
     EXPECT_EQ(flat.keyframeCount(), 0u);
-    ASSERT_EQ(flatRec.events.size(), 1u);
-    EXPECT_EQ(flatRec.events[0], ChangeRecorder::Event(Change::ValueChanged, 0xFFFFFFFFu));
+    EXPECT_EQ(flatRec.events, (Events{{Change::ValueChanged, 0xFFFFFFFFu}}));
 }
 
 TEST(ParameterKeys, SetValueAndAddKeyframeInheritFromOppositeSides)
 {
     Probe p(0.0, -100.0, 100.0, InterpolationLinear, ExtrapolationHold);
-    p.vSetValue(0.0, 0.0f);
-    p.vSetValue(10.0, 10.0f);
-    p.vSetValue(20.0, 20.0f);
+    withKeys(p, {{0.0f, 0.0}, {10.0f, 10.0}, {20.0f, 20.0}});
     p.vSetInterpolation(InterpolationStep, 0.0f);
     p.vSetInterpolation(InterpolationBezier, 10.0f);
     // vSetValue between keys 0 and 1 takes the kind of key 1's record.
-    int const set = p.vSetValue(5.0, 5.0f);
-    EXPECT_EQ(p.interpolation(static_cast<unsigned int>(set)), InterpolationBezier);
+    EXPECT_EQ(p.interpolation(static_cast<unsigned int>(p.vSetValue(5.0, 5.0f))), InterpolationBezier);
     // iAddKeyframe between keys 2 (Bezier, at 10) and 3 (at 20) takes key 2's record: the split segment.
     p.vSetInterpolation(InterpolationStep, 20.0f);
     ChangeRecorder rec(p);
-    int const added = p.iAddKeyframe(15.0f);
-    EXPECT_EQ(added, 3);
+    EXPECT_EQ(p.iAddKeyframe(15.0f), 3);
     EXPECT_EQ(p.interpolation(3u), InterpolationBezier);
-    ASSERT_EQ(rec.events.size(), 1u); // no ValueChanged from iAddKeyframe
-    EXPECT_EQ(rec.events[0], ChangeRecorder::Event(Change::KeyframeAdded, 3));
+    EXPECT_EQ(rec.events, (Events{{Change::KeyframeAdded, 3}})); // no ValueChanged from iAddKeyframe
 
     // The first key and keys at the ends inherit the default interpolation.
     EXPECT_EQ(p.interpolation(p.iAddKeyframe(30.0f) + 0u), InterpolationLinear);
@@ -138,15 +117,11 @@ TEST(ParameterKeys, SetValueAndAddKeyframeInheritFromOppositeSides)
     EXPECT_TRUE(rec.events.empty());
     Parameter<int> flat(false, "F");
     EXPECT_EQ(flat.iAddKeyframe(1.0f), -1);
-}
 
-TEST(ParameterKeys, AddedKeyKeepsTheCurveWhereItWas)
-{
-    Probe p = linearCurve();
-    int const index = p.iAddKeyframe(5.0f);
-    EXPECT_EQ(p.keyframeValue(static_cast<unsigned int>(index)), 5.0);
-    EXPECT_EQ(p.value(5.0f, nullptr), 5.0);
-    EXPECT_EQ(p.value(7.5f, nullptr), 7.5);
+    // An added key keeps the curve where it was.
+    Probe q = linearCurve();
+    EXPECT_EQ(q.keyframeValue(static_cast<unsigned int>(q.iAddKeyframe(5.0f))), 5.0);
+    expectReads(q, {{5.0f, 5.0}, {7.5f, 7.5}});
 }
 
 TEST(ParameterKeys, AppendedKeyReinitialisesTheFormerLastRecordExceptWhileStreaming)
@@ -179,17 +154,15 @@ TEST(ParameterKeys, GettersOutOfRange)
     EXPECT_EQ(p.keyframeTime(7), 0.0f);
     EXPECT_EQ(p.keyframeValue(7), 30.0);
     EXPECT_EQ(p.interpolation(7u), InterpolationStep);
-    IType const data = p.interpolationData(7);
-    EXPECT_EQ(data.eType, InterpolationLinear);
-    EXPECT_EQ(data.dOutTime, 0.0);
+    EXPECT_EQ(p.interpolationData(7).eType, InterpolationLinear);
+    EXPECT_EQ(p.interpolationData(7).dOutTime, 0.0);
     EXPECT_TRUE(p.bKeyframeAt(10.0f));
     EXPECT_FALSE(p.bKeyframeAt(10.5f));
     // interpolation(float): key at t, else the record before the next later key, else the last.
     p.vSetInterpolation(InterpolationStep, 10.0f);
-    EXPECT_EQ(p.interpolation(10.0f), InterpolationStep);
-    EXPECT_EQ(p.interpolation(15.0f), InterpolationStep);
-    EXPECT_EQ(p.interpolation(5.0f), InterpolationLinear);
-    EXPECT_EQ(p.interpolation(-5.0f), InterpolationLinear);
+    for (auto const& row : {std::make_pair(10.0f, InterpolationStep), {15.0f, InterpolationStep},
+                            {5.0f, InterpolationLinear}, {-5.0f, InterpolationLinear}})
+        EXPECT_EQ(p.interpolation(row.first), row.second) << "at " << row.first;
 
     Parameter<int> flat(false, "F", 3, InterpolationLinear, ExtrapolationLinear);
     EXPECT_EQ(flat.interpolation(1.0f), InterpolationStep);
@@ -205,33 +178,37 @@ TEST(ParameterKeys, GettersOutOfRange)
 TEST(ParameterKeys, SearchesAndTheirTieRules)
 {
     Probe p = linearCurve(); // keys at 0, 10, 20
-    float t = -1.0f;
+    struct Row {
+        char const* what;
+        bool (Probe::*search)(float, float&) const;
+        float from;
+        bool bFound;
+        float found;
+    };
+    Row const rows[] = {
+        {"nearest, halfway: the later key", &Probe::bNearestKeyframeTime, 5.0f, true, 10.0f},
+        {"nearest", &Probe::bNearestKeyframeTime, 4.9f, true, 0.0f},
+        {"previous at the first key", &Probe::bPreviousKeyframe, 0.0f, false, -1.0f},
+        {"previous", &Probe::bPreviousKeyframe, 10.0f, true, 0.0f},
+        {"previous beyond", &Probe::bPreviousKeyframe, 50.0f, true, 20.0f},
+        {"next", &Probe::bNextKeyframe, 10.0f, true, 20.0f},
+        {"next before", &Probe::bNextKeyframe, -1.0f, true, 0.0f},
+        {"next at the last key", &Probe::bNextKeyframe, 20.0f, false, -1.0f},
+        {"next beyond: left alone", &Probe::bNextKeyframe, 21.0f, false, -1.0f},
+    };
+    for (Row const& row : rows) {
+        float t = -1.0f;
+        EXPECT_EQ((p.*row.search)(row.from, t), row.bFound) << row.what;
+        EXPECT_EQ(t, row.found) << row.what;
+    }
     unsigned int i = 99;
-    EXPECT_TRUE(p.bNearestKeyframeTime(5.0f, t));
-    EXPECT_EQ(t, 10.0f); // halfway: the later key
-    EXPECT_TRUE(p.bNearestKeyframeTime(4.9f, t));
-    EXPECT_EQ(t, 0.0f);
     EXPECT_TRUE(p.bNearestKeyframeIndex(-3.0f, i));
     EXPECT_EQ(i, 0u);
     EXPECT_TRUE(p.bNearestKeyframeIndex(99.0f, i));
     EXPECT_EQ(i, 2u);
 
-    EXPECT_FALSE(p.bPreviousKeyframe(0.0f, t));
-    EXPECT_TRUE(p.bPreviousKeyframe(10.0f, t));
-    EXPECT_EQ(t, 0.0f);
-    EXPECT_TRUE(p.bPreviousKeyframe(50.0f, t));
-    EXPECT_EQ(t, 20.0f);
-
-    EXPECT_TRUE(p.bNextKeyframe(10.0f, t));
-    EXPECT_EQ(t, 20.0f);
-    EXPECT_TRUE(p.bNextKeyframe(-1.0f, t));
-    EXPECT_EQ(t, 0.0f);
-    t = 42.0f;
-    EXPECT_FALSE(p.bNextKeyframe(20.0f, t));
-    EXPECT_FALSE(p.bNextKeyframe(21.0f, t));
-    EXPECT_EQ(t, 42.0f); // left alone
-
     Parameter<int> empty(true, "E");
+    float t = 0.0f;
     EXPECT_FALSE(empty.bNearestKeyframeTime(0.0f, t));
     EXPECT_FALSE(empty.bPreviousKeyframe(0.0f, t));
 }
@@ -246,17 +223,14 @@ TEST(ParameterKeys, DeletionAndReset)
     p.vDeleteKeyframe(1.0f); // the only key: its value stays as the static value
     EXPECT_EQ(p.keyframeCount(), 0u);
     EXPECT_EQ(p.value(50.0f, nullptr), 8.0);
-    ASSERT_EQ(rec.events.size(), 1u);
-    EXPECT_EQ(rec.events[0], ChangeRecorder::Event(Change::KeyframeDeleted, 0));
+    EXPECT_EQ(rec.events, (Events{{Change::KeyframeDeleted, 0}}));
 
-    p.vSetValue(1.0, 0.0f);
-    p.vSetValue(2.0, 5.0f);
+    withKeys(p, {{0.0f, 1.0}, {5.0f, 2.0}});
     p.vDeleteAllKeyframes(); // the older static value comes back
     EXPECT_EQ(p.value(0.0f, nullptr), 8.0);
     EXPECT_EQ(rec.events.back(), ChangeRecorder::Event(Change::AllKeyframesDeleted, 0));
 
-    p.vSetValue(1.0, 0.0f);
-    p.vSetValue(2.0, 5.0f);
+    withKeys(p, {{0.0f, 1.0}, {5.0f, 2.0}});
     rec.events.clear();
     p.vReset(2.5f); // between keys: nothing at all
     EXPECT_TRUE(rec.events.empty());
@@ -277,10 +251,8 @@ TEST(ParameterKeys, MoveStayingAndCrossing)
     EXPECT_EQ(p.moveAndChangeKeyframe(5.0, 3.0f, 4.0f), -1);
     // To exactly a neighbour's time: stays, two keys at one time.
     EXPECT_EQ(p.moveAndChangeKeyframe(12.0, 10.0f, 20.0f), 1);
-    EXPECT_EQ(p.keyframeTime(1), 20.0f);
-    EXPECT_EQ(p.keyframeTime(2), 20.0f);
-    ASSERT_EQ(rec.events.size(), 1u);
-    EXPECT_EQ(rec.events[0], ChangeRecorder::Event(Change::KeyframeMoved, 1));
+    EXPECT_EQ(keysOf(p), (Keys<Probe>{{0.0f, 0.0}, {20.0f, 12.0}, {20.0f, 30.0}}));
+    EXPECT_EQ(rec.events, (Events{{Change::KeyframeMoved, 1}}));
     EXPECT_EQ(p.recordCount(), 3);
 
     // One step beyond crosses: inner signals stay blocked, one record too many is left.
@@ -289,19 +261,16 @@ TEST(ParameterKeys, MoveStayingAndCrossing)
     EXPECT_EQ(q.moveAndChangeKeyframe(500.0, 10.0f, 25.0f), 2);
     ASSERT_EQ(qrec.events.size(), 1u);
     EXPECT_EQ(qrec.events[0].first, Change::KeyframeReordered);
-    ASSERT_EQ(qrec.lists.size(), 1u);
-    EXPECT_EQ(qrec.lists[0], (QList<unsigned int>{1u, 2u}));
-    EXPECT_EQ(q.keyframeCount(), 3u);
+    EXPECT_EQ(qrec.lists, (std::vector<QList<unsigned int>>{{1u, 2u}}));
+    EXPECT_EQ(keysOf(q), (Keys<Probe>{{0.0f, 0.0}, {20.0f, 30.0}, {25.0f, 500.0}}));
     EXPECT_EQ(q.recordCount(), 4);
-    EXPECT_EQ(q.keyframeValue(2), 500.0); // stored through the clamping vSetValue... within limits
     EXPECT_EQ(q.value(25.0f, nullptr), 500.0);
     EXPECT_FALSE(q.signalsBlocked());
 
     // Crossing onto a key that stands exactly at the target overwrites it.
     Probe r = linearCurve();
     EXPECT_EQ(r.moveAndChangeKeyframe(7.0, 0.0f, 20.0f), 1);
-    EXPECT_EQ(r.keyframeCount(), 2u);
-    EXPECT_EQ(r.keyframeValue(1), 7.0);
+    EXPECT_EQ(keysOf(r), (Keys<Probe>{{10.0f, 10.0}, {20.0f, 7.0}}));
 
     // A caller's own block survives the move.
     Probe s = linearCurve();
@@ -313,11 +282,7 @@ TEST(ParameterKeys, MoveStayingAndCrossing)
 TEST(ParameterKeys, ReadsAtKeysReturnStoredValuesEvenWhereKeysShareATime)
 {
     Probe p(0.0, -1000.0, 1000.0, InterpolationLinear, ExtrapolationHold);
-    p.vSetValue(1.0, 0.0f);
-    p.vSetValue(2.0, 10.0f);
-    p.vSetValue(3.0, 20.0f);
-    p.vSetValue(4.0, 25.0f);
-    p.vSetValue(5.0, 30.0f);
+    withKeys(p, {{0.0f, 1.0}, {10.0f, 2.0}, {20.0f, 3.0}, {25.0f, 4.0}, {30.0f, 5.0}});
     EXPECT_EQ(p.value(10.0f, nullptr), 2.0);
     EXPECT_DOUBLE_EQ(p.value(15.0f, nullptr), 2.5);
     EXPECT_DOUBLE_EQ(p.value(27.5f, nullptr), 4.5);
@@ -329,7 +294,6 @@ TEST(ParameterKeys, ReadsAtKeysReturnStoredValuesEvenWhereKeysShareATime)
 
 TEST(ParameterKeys, AssignmentAndCopyOfKeyframeData)
 {
-    Probe a = linearCurve();
     Parameter<double> plain(false, "Plain", 3.0, InterpolationStep, ExtrapolationHold);
     ChangeRecorder rec(plain);
     Parameter<double> other(true, "Other", 1.0, InterpolationLinear, ExtrapolationLinear);
@@ -348,6 +312,7 @@ TEST(ParameterKeys, AssignmentAndCopyOfKeyframeData)
     EXPECT_TRUE(rec.events.empty());
 
     // A numeric parameter copies from a plain one of its type safely.
+    Probe a = linearCurve();
     a.vCopyKeyframeDataFrom(&other);
     EXPECT_EQ(a.keyframeCount(), 1u);
     EXPECT_EQ(a.staticValue(), 1.0);

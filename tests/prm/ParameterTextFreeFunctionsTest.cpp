@@ -34,14 +34,11 @@ TEST(ParameterTextStreamOperators, BoolPrintsDigitsAndReadsWordsAndNumbers)
     QChar comma;
     in >> comma;
     EXPECT_EQ(comma, QLatin1Char(',')) << "the separator of a key line stays in the stream";
-    in >> value;
-    EXPECT_TRUE(value);
-    in >> value;
-    EXPECT_FALSE(value);
-    in >> value;
-    EXPECT_FALSE(value);
-    in >> value;
-    EXPECT_TRUE(value);
+    for (bool expected : {true, false, false, true}) {
+        value = !expected;
+        in >> value;
+        EXPECT_EQ(value, expected);
+    }
     EXPECT_EQ(in.status(), QTextStream::Ok);
     value = true;
     in >> value;
@@ -62,42 +59,35 @@ TEST(ParameterTextStreamOperators, UnsignedCharIsADecimalNumber)
     QString text("65, 258");
     QTextStream in(&text);
     unsigned char value = 0;
+    QChar comma;
     in >> value;
     EXPECT_EQ(value, 65);
-    QChar comma;
-    in >> comma;
-    in >> value;
+    in >> comma >> value;
     EXPECT_EQ(value, 2) << "low 8 bits of an out-of-range number";
 }
 
 TEST(ParameterTextKeyframeDeclaration, SplitsTheInnerCallHonouringQuotes)
 {
-    EXPECT_EQ(Prm::parseKeyframeDeclaration("keyframes.append( Key( 1, 0.5, Linear ) )"),
-              (QStringList{"1", "0.5", "Linear"}));
-    EXPECT_EQ(Prm::parseKeyframeDeclaration("keyframes.append( BezierKey( 1, 0.5, 8, 0.1, -8, -0.1 ) )"),
-              (QStringList{"1", "0.5", "8", "0.1", "-8", "-0.1"}));
-    EXPECT_EQ(Prm::parseKeyframeDeclaration("KEYFRAMES.APPEND(KEY(2,3,STEP))"),
-              (QStringList{"2", "3", "STEP"}));
-    // Commas and parentheses inside quotes belong to the value, and the quotes stay for the reader.
-    EXPECT_EQ(Prm::parseKeyframeDeclaration("keyframes.append( Key( 4, \"a, (b)\", Step ) )"),
-              (QStringList{"4", "\"a, (b)\"", "Step"}));
-    // An unclosed call still gives its entries.
-    EXPECT_EQ(Prm::parseKeyframeDeclaration("keyframes.append( Key( 1, 2"), (QStringList{"1", "2"}));
-    EXPECT_EQ(Prm::parseKeyframeDeclaration("keyframes.append( Key( 1 ) )").size(), 1);
-    EXPECT_TRUE(Prm::parseKeyframeDeclaration("keyframes").isEmpty());
+    std::pair<char const*, QStringList> const rows[] = {
+        {"keyframes.append( Key( 1, 0.5, Linear ) )", {"1", "0.5", "Linear"}},
+        {"keyframes.append( BezierKey( 1, 0.5, 8, 0.1, -8, -0.1 ) )", {"1", "0.5", "8", "0.1", "-8", "-0.1"}},
+        {"KEYFRAMES.APPEND(KEY(2,3,STEP))", {"2", "3", "STEP"}},
+        // Commas and parentheses inside quotes belong to the value, and the quotes stay for the reader.
+        {"keyframes.append( Key( 4, \"a, (b)\", Step ) )", {"4", "\"a, (b)\"", "Step"}},
+        {"keyframes.append( Key( 1, 2", {"1", "2"}}, // an unclosed call still gives its entries
+        {"keyframes.append( Key( 1 ) )", {"1"}},
+        {"keyframes", {}},
+    };
+    for (auto const& row : rows)
+        EXPECT_EQ(Prm::parseKeyframeDeclaration(row.first), row.second) << row.first;
 }
 
 TEST(ParameterTextCurveNames, NamesRoundTripAndReadersAreLenient)
 {
-    EXPECT_EQ(Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(0)), "Unset");
-    EXPECT_EQ(Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(1)), "Step");
-    EXPECT_EQ(Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(2)), "Linear");
-    EXPECT_EQ(Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(3)), "Bezier");
-    EXPECT_EQ(Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(6)), "Custom 2");
-    EXPECT_EQ(Prm::qstrExtrapolationTypeString(static_cast<Prm::Extrapolation>(0)), "Unset");
-    EXPECT_EQ(Prm::qstrExtrapolationTypeString(static_cast<Prm::Extrapolation>(1)), "Hold");
-    EXPECT_EQ(Prm::qstrExtrapolationTypeString(static_cast<Prm::Extrapolation>(2)), "Linear");
-    EXPECT_EQ(Prm::qstrExtrapolationTypeString(static_cast<Prm::Extrapolation>(3)), "Custom 0");
+    for (auto const& row : {std::make_pair(0, "Unset"), {1, "Step"}, {2, "Linear"}, {3, "Bezier"}, {6, "Custom 2"}})
+        EXPECT_EQ(Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(row.first)), row.second);
+    for (auto const& row : {std::make_pair(0, "Unset"), {1, "Hold"}, {2, "Linear"}, {3, "Custom 0"}})
+        EXPECT_EQ(Prm::qstrExtrapolationTypeString(static_cast<Prm::Extrapolation>(row.first)), row.second);
 
     for (int i = 0; i < 9; ++i) {
         Prm::Interpolation interpolation{};
@@ -111,10 +101,10 @@ TEST(ParameterTextCurveNames, NamesRoundTripAndReadersAreLenient)
     }
 
     Prm::Interpolation interpolation = static_cast<Prm::Interpolation>(1);
-    EXPECT_TRUE(Prm::bStringToInterpolationType(" linear ) )", interpolation));
-    EXPECT_EQ(static_cast<int>(interpolation), 2);
-    EXPECT_TRUE(Prm::bStringToInterpolationType("CUSTOM 1)", interpolation));
-    EXPECT_EQ(static_cast<int>(interpolation), 5);
+    for (auto const& row : {std::make_pair(" linear ) )", 2), {"CUSTOM 1)", 5}}) {
+        EXPECT_TRUE(Prm::bStringToInterpolationType(row.first, interpolation));
+        EXPECT_EQ(static_cast<int>(interpolation), row.second) << row.first;
+    }
     for (char const* bad : {"Hold", "", "Custom", "Custom -1", "Custom x", "Linearly"}) {
         EXPECT_FALSE(Prm::bStringToInterpolationType(bad, interpolation)) << bad;
         EXPECT_EQ(static_cast<int>(interpolation), 5) << "left alone on failure";
@@ -127,17 +117,17 @@ TEST(ParameterTextCurveNames, NamesRoundTripAndReadersAreLenient)
 
 TEST(ParameterTextValueText, QuotingAndWordReading)
 {
-    EXPECT_EQ(Prm::ValueText<QString>::qstrWritten("say \"hi\""), "\"say \"hi\"\"");
-    EXPECT_EQ(Prm::ValueText<QString>::qstrDisplay("a b"), "a b");
-    QString quoted("\"a=b\"");
-    EXPECT_EQ(Prm::ValueText<QString>::tRead(quoted), "a=b");
-    QString half("\"a");
-    EXPECT_EQ(Prm::ValueText<QString>::tRead(half), "\"a") << "needs a quote at both ends";
-    QString lone("\"");
-    EXPECT_EQ(Prm::ValueText<QString>::tRead(lone), "");
+    using Text = Prm::ValueText<QString>;
+    EXPECT_EQ(Text::qstrWritten("say \"hi\""), "\"say \"hi\"\"");
+    EXPECT_EQ(Text::qstrDisplay("a b"), "a b");
+    // A quote is taken off only where there is one at both ends.
+    for (auto const& row : {std::make_pair("\"a=b\"", "a=b"), {"\"a", "\"a"}, {"\"", ""}}) {
+        QString text(row.first);
+        EXPECT_EQ(Text::tRead(text), row.second) << row.first;
+    }
 
     QString word;
-    EXPECT_TRUE(Prm::ValueText<QString>::bReadWord("\"two words\"", word));
+    EXPECT_TRUE(Text::bReadWord("\"two words\"", word));
     EXPECT_EQ(word, "\"two") << "one blank-delimited word, quotes kept";
     double d = 0;
     EXPECT_FALSE(Prm::ValueText<double>::bReadWord("abc", d));

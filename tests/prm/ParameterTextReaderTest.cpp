@@ -1,29 +1,8 @@
-#include "ChangeRecorder.h"
-
-#include "bsc/Logger.h"
+#include "Fixtures.h"
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-namespace {
-
 using Filter = boost::function<QString(QString const&)>;
-
-class LogCapture {
-public:
-    LogCapture()
-    {
-        Bsc::Logger::instance().setSink([this](std::string const& line) { lines.push_back(line); });
-    }
-    ~LogCapture() { Bsc::Logger::instance().setSink(nullptr); }
-    std::vector<std::string> lines;
-};
-
-} // namespace
 
 TEST(ParameterTextReader, FieldWordsArePrefixTestsInOrder)
 {

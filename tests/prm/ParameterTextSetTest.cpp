@@ -1,15 +1,11 @@
-#include "bsc/Logger.h"
+#include "Fixtures.h"
 #include "prm/MovedParameter.h"
 #include "prm/NumericParameter.h"
 #include "prm/ParameterSet.h"
 #include "prm/ParameterTextDocument.h"
 #include "prm/VirtualParameter.h"
 
-#include <gtest/gtest.h>
-
 #include <QTextStream>
-#include <string>
-#include <vector>
 
 namespace {
 
@@ -68,16 +64,6 @@ public:
     Prm::NumericParameter<double> keyed;
     int other = 0;
     int twin = 0;
-};
-
-class LogCapture {
-public:
-    LogCapture()
-    {
-        Bsc::Logger::instance().setSink([this](std::string const& line) { lines.push_back(line); });
-    }
-    ~LogCapture() { Bsc::Logger::instance().setSink(nullptr); }
-    std::vector<std::string> lines;
 };
 
 void vFill(RootSet& set)

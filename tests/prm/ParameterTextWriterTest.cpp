@@ -1,30 +1,23 @@
+#include "Fixtures.h"
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
 
-#include <gtest/gtest.h>
-
-#include <QObject>
-#include <QTextStream>
+#include <tuple>
 
 namespace {
 
 template <class P>
 QStringList writtenLines(P const& parameter, QString const& prefix = "Set.", bool bQualify = true)
 {
-    QString text;
-    QTextStream out(&text);
-    EXPECT_TRUE(parameter.bStreamOut(out, prefix, bQualify));
-    return text.split('\n', Qt::SkipEmptyParts);
+    return qstrStreamed(parameter, prefix, bQualify).split('\n', Qt::SkipEmptyParts);
 }
 
 Prm::IType bezier(double outTime, double outValue, double inTime, double inValue)
 {
     Prm::IType record;
     record.eType = Prm::InterpolationBezier;
-    record.dOutTime = outTime;
-    record.dOutValue = outValue;
-    record.dInTime = inTime;
-    record.dInValue = inValue;
+    std::tie(record.dOutTime, record.dOutValue, record.dInTime, record.dInValue) =
+        std::tie(outTime, outValue, inTime, inValue);
     return record;
 }
 

@@ -1,0 +1,82 @@
+#pragma once
+#include "bsc/Logger.h"
+#include "prm/ParameterWithoutType.h"
+
+#include <gtest/gtest.h>
+
+#include <QList>
+#include <QTextStream>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+/// Collects every `changed` signal of one parameter as (kind, index) pairs; a list change is kept with its
+/// indices copied, since the list dies with the signal.
+class ChangeRecorder {
+public:
+    explicit ChangeRecorder(Prm::ParameterWithoutType& parameter)
+    {
+        QObject::connect(&parameter, &Prm::ParameterWithoutType::changed, [this](Prm::ParameterChange& change) {
+            events.emplace_back(change.kind(), change.index());
+            if (change.indices())
+                lists.push_back(*change.indices());
+        });
+    }
+
+    using Event = std::pair<Prm::ParameterChange::ParameterChanges, unsigned int>;
+    std::vector<Event> events;
+    std::vector<QList<unsigned int>> lists;
+};
+using Events = std::vector<ChangeRecorder::Event>;
+
+/// Sends the logger's lines here while alive.
+class LogCapture {
+public:
+    LogCapture() { Bsc::Logger::instance().setSink([this](std::string const& line) { lines.push_back(line); }); }
+    ~LogCapture() { Bsc::Logger::instance().setSink(nullptr); }
+    std::vector<std::string> lines;
+};
+
+template <class P>
+using ValueOf = std::decay_t<decltype(std::declval<P const&>().staticValue())>;
+template <class P>
+using Keys = std::vector<std::pair<float, ValueOf<P>>>;
+
+/// Every key of `parameter` as (time, value), in order.
+template <class P>
+Keys<P> keysOf(P const& parameter)
+{
+    Keys<P> keys;
+    for (unsigned int i = 0; i < parameter.keyframeCount(); ++i)
+        keys.emplace_back(parameter.keyframeTime(i), parameter.keyframeValue(i));
+    return keys;
+}
+
+/// Sets one key per (time, value) row.
+template <class P>
+P& withKeys(P& parameter, Keys<P> const& keys)
+{
+    for (auto const& key : keys)
+        parameter.vSetValue(key.second, key.first);
+    return parameter;
+}
+
+/// Expects `value(time)` to equal each row's value exactly.
+template <class P>
+void expectReads(P const& parameter, Keys<P> const& rows)
+{
+    for (auto const& row : rows)
+        EXPECT_EQ(parameter.value(row.first, nullptr), row.second) << "at time " << row.first;
+}
+
+/// What `bStreamOut` writes, expecting it to succeed.
+template <class P>
+QString qstrStreamed(P const& parameter, QString const& prefix, bool bQualify = true)
+{
+    QString text;
+    QTextStream out(&text);
+    EXPECT_TRUE(parameter.bStreamOut(out, prefix, bQualify));
+    out.flush();
+    return text;
+}
