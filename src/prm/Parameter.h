@@ -128,7 +128,8 @@ protected:
     int iKeyIndex(float time) const;
     /// Index of the first key later than `time`, or -1.
     int iNextKeyIndex(float time) const;
-    /// Index of the last key not later than `time`, by a search of fixed length (0 for a NaN time).
+    /// The segment the halving search of `value` ends in, or -1 when it meets a key at exactly `time` on
+    /// the way or there are fewer than two keys.
     int iSegmentIndex(float time) const;
     /// The halving search of `value` between the first and the last key.
     T tSearchKeys(float time, Cache* cache) const;

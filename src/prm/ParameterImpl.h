@@ -139,11 +139,8 @@ T Parameter<T>::value(float time, Cache* cache) const
         return keys[0].tValue;
     if (n >= 2 && time == keys[n - 1].fTime)
         return keys[n - 1].tValue;
-    // A search of fixed length finds the segment; strictly inside it, it is the segment the halving
-    // search below would end on. A time on a key (where several keys may share that time) or a NaN time
-    // takes the halving search itself, which decides which key's value is returned.
     int const segment = iSegmentIndex(time);
-    if (keys[segment].fTime != time && time == time)
+    if (segment >= 0)
         return InterpolateKeyForwards(static_cast<unsigned int>(segment), time, cache);
     return tSearchKeys(time, cache);
 }
@@ -151,14 +148,21 @@ T Parameter<T>::value(float time, Cache* cache) const
 template <class T>
 int Parameter<T>::iSegmentIndex(float time) const
 {
-    KeyframeData<T> const* base = keyframes.constData();
-    int length = keyframes.size();
-    while (length > 1) {
-        int const half = length / 2;
-        base += half * int(base[half].fTime <= time);
-        length -= half;
+    // The probes of the halving search, with its bounds moved without a branch. Keys need not be in
+    // order (a key set at a NaN time stays where it was appended), so it is the same probes that decide.
+    KeyframeData<T> const* keys = keyframes.constData();
+    int low = 0;
+    int high = keyframes.size() - 1;
+    bool bMet = high < 1;
+    while (high - low > 1) {
+        int const mid = (low + high) / 2;
+        float const fMid = keys[mid].fTime;
+        bool const bAbove = fMid > time;
+        bMet |= fMid == time;
+        high = bAbove ? mid : high;
+        low = bAbove ? low : mid;
     }
-    return int(base - keyframes.constData());
+    return bMet ? -1 : low;
 }
 
 template <class T>

@@ -65,6 +65,10 @@ TEST(ParameterKeys, ReadsAtBetweenAndBeyondKeysOfAPlainParameter)
     withKeys(p, {{0.0f, 1.0}, {10.0f, 5.0}, {20.0f, 2.0}});
     // A plain parameter never interpolates or extrapolates, whatever the records and rules say.
     expectReads(p, {{5.0f, 1.0}, {15.0f, 5.0}, {-5.0f, 1.0}, {50.0f, 2.0}, {10.0f, 5.0}});
+    // A key at a NaN time is appended and later keys follow it out of order; the halving search's own
+    // probes decide the segment: at 25 it passes 20, then the NaN key, and ends on the NaN key.
+    withKeys(p, {{std::nanf(""), 8.0}, {30.0f, 9.0}});
+    expectReads(p, {{25.0f, 8.0}, {15.0f, 5.0}});
 }
 
 TEST(ParameterKeys, SetValueInsertsInOrderAndSignals)
