@@ -125,6 +125,14 @@ TEST(Curve, ExtrapolationRules)
 
     // An unset end segment is sampled a tenth of the way in, which reads the zero value.
     EXPECT_DOUBLE_EQ(twoKeys(2.0, 4.0, InterpolationUnset, ExtrapolationLinear).value(-1.0f, nullptr), 4.0);
+    // After the curve the last segment is sampled from its right end, a tenth back towards key n - 2; the
+    // first custom kind samples as a step there, so the line runs through key n - 2's value at time 29.
+    NumericParameter<double> sampled = twoKeys(0.0, 10.0, InterpolationLinear, ExtrapolationLinear);
+    withKeys(sampled, {{20.0f, 30.0}, {30.0f, 60.0}});
+    IType custom = sampled.interpolationData(2);
+    custom.eType = InterpolationCustomFirst;
+    sampled.vSetInterpolationData(custom, 2);
+    EXPECT_DOUBLE_EQ(sampled.value(31.0f, nullptr), 90.0);
 }
 
 TEST(Curve, FreshBezierHandlesFollowTheValueTypesArithmetic)
