@@ -1,7 +1,7 @@
 #pragma once
 #include "prm/Parameter.h"
 #include "prm/ParameterEdit.h"
-#include "prm/ParameterEditTypes.h"
+#include "prm/ParameterValueTypes.h"
 
 namespace Prm {
 
@@ -51,7 +51,7 @@ void MoveChangeKeyframeEdit<T>::undoIt()
 }
 
 #define TQ_EXTERN_MOVE_CHANGE_KEYFRAME_EDIT(T) extern template class MoveChangeKeyframeEdit<T>;
-TQ_FOR_EACH_NUMERIC_EDIT_TYPE(TQ_EXTERN_MOVE_CHANGE_KEYFRAME_EDIT)
+TQ_FOR_EACH_NUMERIC_VALUE_TYPE(TQ_EXTERN_MOVE_CHANGE_KEYFRAME_EDIT)
 #undef TQ_EXTERN_MOVE_CHANGE_KEYFRAME_EDIT
 
 } // namespace Prm

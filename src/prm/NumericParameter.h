@@ -123,11 +123,8 @@ NumericParameter<T>& NumericParameter<T>::operator*=(double factor)
     return *this;
 }
 
-extern template class NumericParameter<bool>;
-extern template class NumericParameter<unsigned char>;
-extern template class NumericParameter<int>;
-extern template class NumericParameter<unsigned int>;
-extern template class NumericParameter<float>;
-extern template class NumericParameter<double>;
+#define TQ_EXTERN_NUMERIC_PARAMETER(T) extern template class NumericParameter<T>;
+TQ_FOR_EACH_NUMERIC_VALUE_TYPE(TQ_EXTERN_NUMERIC_PARAMETER)
+#undef TQ_EXTERN_NUMERIC_PARAMETER
 
 } // namespace Prm

@@ -1,6 +1,7 @@
 #pragma once
 #include "prm/KeyframeData.h"
 #include "prm/ParameterWithoutType.h"
+#include "prm/ParameterValueTypes.h"
 #include "support/Enumerations.h"
 
 #include <QVector>
@@ -166,21 +167,8 @@ Parameter<T>::Parameter()
     displayName = QStringLiteral("Not Set");
 }
 
-extern template class Parameter<bool>;
-extern template class Parameter<unsigned char>;
-extern template class Parameter<int>;
-extern template class Parameter<unsigned int>;
-extern template class Parameter<float>;
-extern template class Parameter<double>;
-extern template class Parameter<QString>;
-extern template class Parameter<_TrackModel>;
-extern template class Parameter<_DISTORTION_ALGORITHM>;
-extern template class Parameter<TQ_BlendMode>;
-extern template class Parameter<TQ_MATTE_SUBTYPE>;
-extern template class Parameter<TQ_REMOVESOURCE_MODE>;
-extern template class Parameter<TQ_ILLUMINATION_MODEL>;
-extern template class Parameter<TQ_FILL_ALGORITHM>;
-extern template class Parameter<TQ_LUMINANCE_MODEL>;
-extern template class Parameter<Gan_CameraType>;
+#define TQ_EXTERN_PARAMETER(T) extern template class Parameter<T>;
+TQ_FOR_EACH_VALUE_TYPE(TQ_EXTERN_PARAMETER)
+#undef TQ_EXTERN_PARAMETER
 
 } // namespace Prm

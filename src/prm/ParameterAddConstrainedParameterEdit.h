@@ -1,7 +1,7 @@
 #pragma once
 #include "prm/Parameter.h"
 #include "prm/ParameterEdit.h"
-#include "prm/ParameterEditTypes.h"
+#include "prm/ParameterValueTypes.h"
 
 namespace Prm {
 
@@ -53,7 +53,7 @@ void ParameterAddConstrainedParameterEdit<T>::undoIt()
 
 #define TQ_EXTERN_PARAMETER_ADD_CONSTRAINED_PARAMETER_EDIT(T) \
     extern template class ParameterAddConstrainedParameterEdit<T>;
-TQ_FOR_EACH_EDIT_TYPE(TQ_EXTERN_PARAMETER_ADD_CONSTRAINED_PARAMETER_EDIT)
+TQ_FOR_EACH_VALUE_TYPE(TQ_EXTERN_PARAMETER_ADD_CONSTRAINED_PARAMETER_EDIT)
 #undef TQ_EXTERN_PARAMETER_ADD_CONSTRAINED_PARAMETER_EDIT
 
 } // namespace Prm

@@ -1,7 +1,7 @@
 #pragma once
 #include "prm/Parameter.h"
 #include "prm/ParameterEdit.h"
-#include "prm/ParameterEditTypes.h"
+#include "prm/ParameterValueTypes.h"
 
 namespace Prm {
 
@@ -162,7 +162,7 @@ void ParameterExtrapolationEdit<T, bBefore>::vApply(Extrapolation extrapolation)
     extern template class ParameterExtrapolationEdit<T, false>; \
     extern template class ParameterExtrapolationBeforeEdit<T>; \
     extern template class ParameterExtrapolationAfterEdit<T>;
-TQ_FOR_EACH_EDIT_TYPE(TQ_EXTERN_PARAMETER_CURVE_EDITS)
+TQ_FOR_EACH_VALUE_TYPE(TQ_EXTERN_PARAMETER_CURVE_EDITS)
 #undef TQ_EXTERN_PARAMETER_CURVE_EDITS
 
 } // namespace Prm

@@ -2,7 +2,7 @@
 #include "bsc/AbstractData.h"
 #include "prm/Parameter.h"
 #include "prm/ParameterEdit.h"
-#include "prm/ParameterEditTypes.h"
+#include "prm/ParameterValueTypes.h"
 
 #include <QVector>
 
@@ -203,7 +203,7 @@ void ParameterResetEdit<T>::undoIt()
     extern template class ParameterDeleteKeyEdit<T>; \
     extern template class ParameterDeleteAllKeysEdit<T>; \
     extern template class ParameterResetEdit<T>;
-TQ_FOR_EACH_EDIT_TYPE(TQ_EXTERN_PARAMETER_KEY_EDITS)
+TQ_FOR_EACH_VALUE_TYPE(TQ_EXTERN_PARAMETER_KEY_EDITS)
 #undef TQ_EXTERN_PARAMETER_KEY_EDITS
 
 } // namespace Prm

@@ -1,7 +1,7 @@
 #pragma once
 #include "prm/Parameter.h"
 #include "prm/ParameterEdit.h"
-#include "prm/ParameterEditTypes.h"
+#include "prm/ParameterValueTypes.h"
 
 namespace Prm {
 
@@ -91,7 +91,7 @@ void ParameterDefaultValueEdit<T>::undoIt()
 #define TQ_EXTERN_PARAMETER_VALUE_EDITS(T) \
     extern template class ParameterValueEdit<T>; \
     extern template class ParameterDefaultValueEdit<T>;
-TQ_FOR_EACH_EDIT_TYPE(TQ_EXTERN_PARAMETER_VALUE_EDITS)
+TQ_FOR_EACH_VALUE_TYPE(TQ_EXTERN_PARAMETER_VALUE_EDITS)
 #undef TQ_EXTERN_PARAMETER_VALUE_EDITS
 
 } // namespace Prm

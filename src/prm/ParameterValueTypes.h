@@ -1,11 +1,11 @@
 #pragma once
-/// The value types that parameter edits are instantiated for: those of `Prm::Parameter<T>`.
+/// The value types of `Prm::Parameter<T>` (and of its edits), as lists for explicit instantiation.
 #include "support/Enumerations.h"
 
 #include <QString>
 
 /// Calls `X(T)` once per numeric value type (the types of `Prm::NumericParameter<T>`).
-#define TQ_FOR_EACH_NUMERIC_EDIT_TYPE(X)                                                                    \
+#define TQ_FOR_EACH_NUMERIC_VALUE_TYPE(X)                                                                    \
     X(bool)                                                                                                 \
     X(unsigned char)                                                                                        \
     X(int)                                                                                                  \
@@ -14,7 +14,7 @@
     X(double)
 
 /// Calls `X(T)` once per enumeration value type.
-#define TQ_FOR_EACH_ENUM_EDIT_TYPE(X)                                                                       \
+#define TQ_FOR_EACH_ENUM_VALUE_TYPE(X)                                                                       \
     X(_TrackModel)                                                                                          \
     X(_DISTORTION_ALGORITHM)                                                                                \
     X(TQ_BlendMode)                                                                                         \
@@ -26,7 +26,7 @@
     X(Gan_CameraType)
 
 /// Calls `X(T)` once per value type of `Prm::Parameter<T>`.
-#define TQ_FOR_EACH_EDIT_TYPE(X)                                                                            \
-    TQ_FOR_EACH_NUMERIC_EDIT_TYPE(X)                                                                        \
+#define TQ_FOR_EACH_VALUE_TYPE(X)                                                                            \
+    TQ_FOR_EACH_NUMERIC_VALUE_TYPE(X)                                                                        \
     X(QString)                                                                                              \
-    TQ_FOR_EACH_ENUM_EDIT_TYPE(X)
+    TQ_FOR_EACH_ENUM_VALUE_TYPE(X)
