@@ -3,8 +3,8 @@
 // its time per text in a shared variable; BM_StreamIn reports its own time over that as "ratio".
 #include "bsc/Logger.h"
 #include "prm/NumericParameter.h"
-#include "prm/ParameterSet.h"
-#include "prm/ParameterTextDocument.h"
+#include "prm/set/ParameterSet.h"
+#include "prm/text/ParameterTextDocument.h"
 
 #include <benchmark/benchmark.h>
 

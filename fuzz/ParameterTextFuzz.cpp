@@ -2,9 +2,9 @@
 // value types, a shared script name, a basic parameter and a nested child set, then writes the set out.
 #include "bsc/Logger.h"
 #include "prm/NumericParameter.h"
-#include "prm/ParameterSet.h"
-#include "prm/ParameterTextDocument.h"
-#include "prm/VirtualParameter.h"
+#include "prm/set/ParameterSet.h"
+#include "prm/text/ParameterTextDocument.h"
+#include "prm/basic/VirtualParameter.h"
 
 #include <QString>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "clip/BaseClipInfo.h"
 
-#include "prm/StreamOperators.h"
-#include "prm/VirtualParameter.h"
+#include "prm/text/StreamOperators.h"
+#include "prm/basic/VirtualParameter.h"
 
 #include <limits>
 

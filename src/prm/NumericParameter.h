@@ -1,6 +1,6 @@
 #pragma once
 #include "prm/NumericParameterWithoutType.h"
-#include "prm/ParamInterpolator.h"
+#include "prm/curve/ParamInterpolator.h"
 #include "prm/Parameter.h"
 #include "prm/ValueConversion.h"
 

@@ -2,9 +2,9 @@
 /// The `...Command` makers that `Prm::NumericParameter<T>` adds. Included only by its explicit
 /// instantiations. Both limit the value in `double` and convert it to `T` when the edit is made.
 #include "bsc/Command.h"
-#include "prm/MoveChangeKeyframeEdit.h"
+#include "prm/edit/MoveChangeKeyframeEdit.h"
 #include "prm/NumericParameter.h"
-#include "prm/ParameterValueEdits.h"
+#include "prm/edit/ParameterValueEdits.h"
 
 namespace Prm {
 

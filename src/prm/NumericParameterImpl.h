@@ -1,6 +1,6 @@
 #pragma once
 /// Definitions of Prm::NumericParameter<T>'s own operations. Included only where it is instantiated.
-#include "prm/Interpolate.h"
+#include "prm/curve/Interpolate.h"
 #include "prm/NumericParameter.h"
 #include "prm/ParameterImpl.h"
 

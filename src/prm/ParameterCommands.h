@@ -4,10 +4,10 @@
 /// (which owns it from then on) and changes nothing: the parameter changes when the composite runs.
 #include "bsc/Command.h"
 #include "prm/Parameter.h"
-#include "prm/ParameterAddConstrainedParameterEdit.h"
-#include "prm/ParameterCurveEdits.h"
-#include "prm/ParameterKeyEdits.h"
-#include "prm/ParameterValueEdits.h"
+#include "prm/edit/ParameterAddConstrainedParameterEdit.h"
+#include "prm/edit/ParameterCurveEdits.h"
+#include "prm/edit/ParameterKeyEdits.h"
+#include "prm/edit/ParameterValueEdits.h"
 
 namespace Prm {
 

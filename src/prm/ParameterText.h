@@ -1,11 +1,11 @@
 #pragma once
 /// Definitions of Prm::Parameter<T>'s text operations. Included only where the template is instantiated.
 #include "bsc/Logger.h"
-#include "prm/CurveTypeNames.h"
-#include "prm/KeyframeDeclaration.h"
+#include "prm/text/CurveTypeNames.h"
+#include "prm/text/KeyframeDeclaration.h"
 #include "prm/Parameter.h"
-#include "prm/TextField.h"
-#include "prm/ValueText.h"
+#include "prm/text/TextField.h"
+#include "prm/text/ValueText.h"
 
 #include <QTextStream>
 

@@ -1,6 +1,6 @@
 #include "prm/ParameterWithoutType.h"
 
-#include "prm/ParameterSet.h"
+#include "prm/set/ParameterSet.h"
 
 namespace Prm {
 

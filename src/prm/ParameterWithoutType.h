@@ -1,6 +1,6 @@
 #pragma once
-#include "prm/Cache.h"
-#include "prm/Interpolation.h"
+#include "prm/curve/Cache.h"
+#include "prm/curve/Interpolation.h"
 #include "prm/ParameterChange.h"
 
 #include <QObject>

@@ -1,7 +1,7 @@
 #include "prm/ParameterWithoutType.h"
 
 #include "bsc/Command.h"
-#include "prm/ConstraintEdits.h"
+#include "prm/edit/ConstraintEdits.h"
 
 namespace Prm {
 

@@ -1,9 +1,0 @@
-#include "prm/BasicParameter.h"
-
-namespace Prm {
-
-BasicParameter::BasicParameter() : QObject(nullptr) {}
-
-BasicParameter::~BasicParameter() = default;
-
-} // namespace Prm

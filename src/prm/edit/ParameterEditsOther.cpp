@@ -1,0 +1,4 @@
+#include "prm/edit/ParameterEditsInstantiation.h"
+
+TQ_INSTANTIATE_PARAMETER_EDITS(QString)
+TQ_FOR_EACH_ENUM_VALUE_TYPE(TQ_INSTANTIATE_PARAMETER_EDITS)

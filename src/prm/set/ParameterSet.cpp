@@ -1,0 +1,189 @@
+#include "prm/set/ParameterSet.h"
+
+#include "prm/basic/BasicParameter.h"
+#include "prm/NumericParameter.h"
+#include "prm/ParameterWithoutType.h"
+
+#include <QTextStream>
+
+namespace Prm {
+
+namespace {
+
+template <class T>
+bool bStreamInNumeric(ParameterWithoutType& parameter, QString const& line, bool& bRead)
+{
+    auto* numeric = dynamic_cast<NumericParameter<T>*>(&parameter);
+    if (numeric)
+        bRead = numeric->bStreamIn(line);
+    return numeric != nullptr;
+}
+
+// A numeric parameter reads through its own bStreamIn, which also repairs a failed key line; the
+// others take the line without a filter.
+bool bStreamInParameter(ParameterWithoutType& parameter, QString const& line)
+{
+    bool bRead = false;
+    if (dynamic_cast<NumericParameterWithoutType*>(&parameter)
+        && (bStreamInNumeric<double>(parameter, line, bRead) || bStreamInNumeric<float>(parameter, line, bRead)
+            || bStreamInNumeric<int>(parameter, line, bRead)
+            || bStreamInNumeric<unsigned int>(parameter, line, bRead)
+            || bStreamInNumeric<bool>(parameter, line, bRead)
+            || bStreamInNumeric<unsigned char>(parameter, line, bRead)))
+        return bRead;
+    return parameter.streamInValue(line, boost::function<QString(QString const&)>());
+}
+
+// The `index`-th of the basic parameters named `name`.
+bool bStreamInBasic(QVector<BasicParameter*> const& basicParameters, QString const& name, int index,
+                    QString const& line)
+{
+    for (BasicParameter* parameter : basicParameters) {
+        if (parameter && parameter->scriptName() == name && index-- == 0)
+            return parameter->bStreamIn(line);
+    }
+    return false;
+}
+
+} // namespace
+
+ParameterSet::ParameterSet(QString const& name, ParameterTree*)
+    : bBasicParametersOwned(false), displayName(name), scriptName(name)
+{
+}
+
+ParameterSet::ParameterSet(ParameterSet const& other)
+    : bBasicParametersOwned(false), displayName(other.displayName), scriptName(other.scriptName)
+{
+}
+
+ParameterSet::~ParameterSet()
+{
+    // A parameter that outlives its set must not keep a dangling owner.
+    for (QPointer<ParameterWithoutType> const& parameter : parameters) {
+        if (parameter && parameter->pOwner == this)
+            parameter->pOwner = nullptr;
+    }
+    if (bBasicParametersOwned)
+        qDeleteAll(basicParameters);
+}
+
+void ParameterSet::setDisplayName(QString const& name)
+{
+    displayName = name;
+}
+
+void ParameterSet::setDisplayName(QString const& newDisplayName, QString const& newScriptName)
+{
+    displayName = newDisplayName;
+    scriptName = newScriptName;
+}
+
+void ParameterSet::setScriptName(QString const& name)
+{
+    scriptName = name;
+}
+
+bool ParameterSet::bStreamOut(QTextStream& out, QString const& prefix, bool bQualify)
+{
+    QString setPrefix = prefix;
+    if (bQualify && !scriptName.isEmpty())
+        setPrefix += scriptName + QLatin1Char('.');
+    for (ParameterWithoutType* parameter : parameterList())
+        parameter->bStreamOut(out, setPrefix, true);
+    for (BasicParameter* parameter : basicParameters) {
+        if (parameter)
+            parameter->bStreamOut(out, setPrefix, true);
+    }
+    for (ParameterSet* child : childSets) {
+        if (child)
+            child->bStreamOut(out, setPrefix, true);
+    }
+    return true;
+}
+
+bool ParameterSet::bStreamIn(QString const& line)
+{
+    int const dot = line.indexOf(QLatin1Char('.'));
+    if (dot <= 0)
+        return false;
+    QString const name = line.left(dot);
+    QString const rest = line.mid(dot + 1);
+    auto const nameOf = [this](int position) -> QString const* {
+        ParameterWithoutType const* parameter = parameters.at(position).data();
+        return parameter ? &parameter->qstrScriptName() : nullptr;
+    };
+    QVector<int> const positions = lineRouter.positionsOf(name, parameters.size(), nameOf);
+    int basicCount = 0;
+    for (BasicParameter* parameter : basicParameters) {
+        if (parameter && parameter->scriptName() == name)
+            ++basicCount;
+    }
+    int const count = positions.size() + basicCount;
+    if (count > 0) {
+        int const chosen = count > 1 ? lineRouter.iChoose(name, count, eTextField(rest)) : 0;
+        if (chosen < positions.size() ? bStreamInParameter(*parameters.at(positions.at(chosen)), rest)
+                                      : bStreamInBasic(basicParameters, name, chosen - positions.size(), rest))
+            return true;
+    }
+    for (ParameterSet* child : childSets) {
+        if (child && child->scriptName == name && child->bStreamIn(rest))
+            return true;
+    }
+    return false;
+}
+
+void ParameterSet::assignName(QString const& name)
+{
+    displayName = name;
+    scriptName = name;
+}
+
+void ParameterSet::addParameter(ParameterWithoutType* parameter)
+{
+    if (!parameter)
+        return;
+    parameter->pOwner = this;
+    parameters.append(QPointer<ParameterWithoutType>(parameter));
+}
+
+void ParameterSet::forEachParameter(boost::function<void(ParameterWithoutType*)> function, bool bRecursive) const
+{
+    for (ParameterWithoutType* parameter : parameterList())
+        function(parameter);
+    if (!bRecursive)
+        return;
+    for (ParameterSet const* child : childSets) {
+        if (child)
+            child->forEachParameter(function, true);
+    }
+}
+
+ParameterSet& ParameterSet::operator=(ParameterSet const& other)
+{
+    displayName = other.displayName;
+    scriptName = other.scriptName;
+    return *this;
+}
+
+QVector<ParameterWithoutType*> ParameterSet::parameterList() const
+{
+    QVector<ParameterWithoutType*> live;
+    live.reserve(parameters.size());
+    for (QPointer<ParameterWithoutType> const& parameter : parameters) {
+        if (parameter)
+            live.append(parameter.data());
+    }
+    return live;
+}
+
+ParameterWithoutType* ParameterSet::findParameter(QString const& name) const
+{
+    for (QPointer<ParameterWithoutType> const& parameter : parameters) {
+        if (parameter && parameter->qstrScriptName() == name)
+            return parameter.data();
+    }
+    return nullptr;
+}
+
+} // namespace Prm

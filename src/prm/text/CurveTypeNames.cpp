@@ -1,0 +1,91 @@
+#include "prm/text/CurveTypeNames.h"
+
+#include <QStringList>
+
+#include <climits>
+
+namespace Prm {
+
+namespace {
+
+QStringList const& interpolationNames()
+{
+    static QStringList const names{QStringLiteral("Unset"), QStringLiteral("Step"), QStringLiteral("Linear"),
+                                   QStringLiteral("Bezier")};
+    return names;
+}
+
+QStringList const& extrapolationNames()
+{
+    static QStringList const names{QStringLiteral("Unset"), QStringLiteral("Hold"), QStringLiteral("Linear")};
+    return names;
+}
+
+// Custom kinds follow the built-in names: value = names.size() + n.
+QString qstrName(int value, QStringList const& names)
+{
+    if (value < 0)
+        return QString::number(value);
+    if (value < names.size())
+        return names.at(value);
+    return QStringLiteral("Custom %1").arg(value - names.size());
+}
+
+QString qstrCleaned(QString const& text)
+{
+    QString cleaned(text);
+    cleaned.remove(QLatin1Char(')'));
+    return cleaned.trimmed();
+}
+
+bool bValueOfName(QString const& text, QStringList const& names, int& value)
+{
+    QString const cleaned = qstrCleaned(text);
+    for (int i = 0; i < names.size(); ++i) {
+        if (cleaned.compare(names.at(i), Qt::CaseInsensitive) == 0) {
+            value = i;
+            return true;
+        }
+    }
+    QLatin1String const custom("custom");
+    if (!cleaned.startsWith(custom, Qt::CaseInsensitive))
+        return false;
+    bool bOk = false;
+    int const n = cleaned.mid(custom.size()).trimmed().toInt(&bOk);
+    if (!bOk || n < 0 || n > INT_MAX - names.size())
+        return false;
+    value = names.size() + n;
+    return true;
+}
+
+} // namespace
+
+QString qstrInterpolationTypeString(Interpolation interpolation)
+{
+    return qstrName(static_cast<int>(interpolation), interpolationNames());
+}
+
+QString qstrExtrapolationTypeString(Extrapolation extrapolation)
+{
+    return qstrName(static_cast<int>(extrapolation), extrapolationNames());
+}
+
+bool bStringToInterpolationType(QString const& text, Interpolation& out)
+{
+    int value = 0;
+    if (!bValueOfName(text, interpolationNames(), value))
+        return false;
+    out = static_cast<Interpolation>(value);
+    return true;
+}
+
+bool bStringToExtrapolationType(QString const& text, Extrapolation& out)
+{
+    int value = 0;
+    if (!bValueOfName(text, extrapolationNames(), value))
+        return false;
+    out = static_cast<Extrapolation>(value);
+    return true;
+}
+
+} // namespace Prm

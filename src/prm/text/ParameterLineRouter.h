@@ -1,0 +1,73 @@
+#pragma once
+#include "prm/text/TextField.h"
+
+#include <QHash>
+#include <QString>
+#include <QVector>
+
+namespace Prm {
+
+/// Chooses which of several parameters that share a script name takes a line, so that each gets back the
+/// lines it wrote.
+///
+/// Each such parameter wrote one block of lines in field order (`TextField`). A line goes to the current
+/// block while it still fits that order, where only key lines may repeat; a field that arrives again or
+/// out of order closes the block and the line goes to the next parameter of that name. After the last
+/// one the choice starts again at the first, so that the same text can be read a second time. Names that
+/// only one parameter carries keep no state. Owned by value by its set; not copied with it.
+class ParameterLineRouter {
+public:
+    /// Index, among `candidateCount` parameters named `name` in set order, of the one that takes a line
+    /// of `field`. A line of unknown field goes to the current block and changes nothing.
+    int iChoose(QString const& name, int candidateCount, TextField field);
+
+    /// Positions, among `count` parameters, of those named `name`, from a name index that is rebuilt
+    /// with `nameOf(position)` (null for a parameter gone) when the count changed, when the name is not
+    /// in it, or when a listed parameter no longer carries the name.
+    template <class NameOf>
+    QVector<int> positionsOf(QString const& name, int count, NameOf nameOf);
+
+private:
+    template <class NameOf>
+    bool bIndexHolds(QVector<int> const& positions, QString const& name, NameOf nameOf) const;
+
+    struct Cursor {
+        int iCandidate = 0;
+        TextField eLast = TextField::Unknown;
+    };
+    QHash<QString, Cursor> cursors;
+    QHash<QString, QVector<int>> nameIndex;
+    int iIndexedCount = -1;
+};
+
+template <class NameOf>
+bool ParameterLineRouter::bIndexHolds(QVector<int> const& positions, QString const& name, NameOf nameOf) const
+{
+    if (positions.isEmpty())
+        return false;
+    for (int position : positions) {
+        QString const* current = nameOf(position);
+        if (!current || *current != name)
+            return false;
+    }
+    return true;
+}
+
+template <class NameOf>
+QVector<int> ParameterLineRouter::positionsOf(QString const& name, int count, NameOf nameOf)
+{
+    if (count == iIndexedCount) {
+        auto const found = nameIndex.constFind(name);
+        if (found != nameIndex.constEnd() && bIndexHolds(*found, name, nameOf))
+            return *found;
+    }
+    nameIndex.clear();
+    for (int position = 0; position < count; ++position) {
+        if (QString const* current = nameOf(position))
+            nameIndex[*current].append(position);
+    }
+    iIndexedCount = count;
+    return nameIndex.value(name);
+}
+
+} // namespace Prm

@@ -1,0 +1,71 @@
+#pragma once
+#include "prm/text/StaticValueText.h"
+#include "prm/text/StreamOperators.h"
+#include "support/Enumerations.h"
+
+#include <QMetaType>
+#include <QString>
+#include <QTextStream>
+#include <QVariant>
+
+namespace Prm {
+
+/// How one value of a keyframed parameter prints and parses, beyond the line form shared with static
+/// parameters (`vWrite`, `tRead`).
+///
+/// Stateless; every function builds its own stream, except `vWrite`, which writes to the caller's stream
+/// with that stream's settings.
+template <class T>
+struct ValueText : StaticValueText<T> {
+    /// The line form through a fresh string stream at default settings (six significant digits).
+    static QString qstrWritten(T const& value)
+    {
+        QString text;
+        QTextStream out(&text, QIODevice::WriteOnly);
+        StaticValueText<T>::vWrite(out, value);
+        out.flush();
+        return text;
+    }
+
+    /// What `valueString` shows; for `QString` the text without quotes.
+    static QString qstrDisplay(T const& value) { return qstrWritten(value); }
+
+    /// Reads one value through a read-only stream on a copy of `text`; true only when the stream's status
+    /// stays Ok. `value` is written either way.
+    static bool bReadWord(QString text, T& value)
+    {
+        QTextStream in(&text, QIODevice::ReadOnly);
+        in >> value;
+        return in.status() == QTextStream::Ok;
+    }
+
+    /// The Qt type id that carries this value type in a `QVariant`; the enumerations register theirs on
+    /// first use (support/Enumerations.h).
+    static int iMetaType() { return qMetaTypeId<T>(); }
+
+    static QVariant variant(T const& value) { return QVariant(iMetaType(), &value); }
+
+    /// False, leaving `value` alone, when `variant` cannot convert to this type. Otherwise the held value,
+    /// or after Qt's conversion, and the zero value when that conversion fails.
+    static bool bFromVariant(QVariant const& variant, T& value)
+    {
+        int const type = iMetaType();
+        if (!variant.canConvert(type))
+            return false;
+        if (variant.userType() == type) {
+            value = *static_cast<T const*>(variant.constData());
+            return true;
+        }
+        QVariant converted(variant);
+        value = converted.convert(type) ? *static_cast<T const*>(converted.constData()) : T();
+        return true;
+    }
+};
+
+template <>
+inline QString ValueText<QString>::qstrDisplay(QString const& value)
+{
+    return value;
+}
+
+} // namespace Prm
