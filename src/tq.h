@@ -47,6 +47,7 @@
 // --- support
 #include "support/BlendMode.h"
 #include "support/Enumerations.h"
+#include "support/EnumerationParameters.h"
 #include "support/Exception.h"
 #include "support/GandalfFailure.h"
 #include "support/ShapeDataFormat.h"
@@ -61,6 +62,7 @@
 #include "clip/LookupTableHelperMethods.h"
 
 // --- camera
+#include "camera/CameraTypeParameter.h"
 #include "camera/FilmType.h"
 #include "camera/FilmTypeFactory.h"
 

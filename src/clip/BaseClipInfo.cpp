@@ -2,6 +2,7 @@
 
 #include "prm/text/StreamOperators.h"
 #include "prm/basic/VirtualParameter.h"
+#include "support/EnumerationParameters.h"
 
 #include <limits>
 

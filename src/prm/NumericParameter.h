@@ -123,8 +123,21 @@ NumericParameter<T>& NumericParameter<T>::operator*=(double factor)
     return *this;
 }
 
-#define TQ_EXTERN_NUMERIC_PARAMETER(T) extern template class NumericParameter<T>;
-TQ_FOR_EACH_NUMERIC_VALUE_TYPE(TQ_EXTERN_NUMERIC_PARAMETER)
-#undef TQ_EXTERN_NUMERIC_PARAMETER
-
 } // namespace Prm
+
+/// Calls `X(T)` once per value type of `Prm::NumericParameter<T>`; NumericParameterTypes.cpp
+/// instantiates each. A value type needs QTextStream's `<<` and `>>` and a Qt meta type.
+#define TQ_FOR_EACH_NUMERIC_VALUE_TYPE(X)                                                                    \
+    X(bool)                                                                                                 \
+    X(unsigned char)                                                                                        \
+    X(int)                                                                                                  \
+    X(unsigned int)                                                                                         \
+    X(float)                                                                                                \
+    X(double)
+
+/// `TQ_EXTERN_PARAMETER` for a numeric value type: both templates.
+#define TQ_EXTERN_NUMERIC_PARAMETER(T)                                                                      \
+    TQ_EXTERN_PARAMETER(T)                                                                                  \
+    extern template class Prm::NumericParameter<T>;
+
+TQ_FOR_EACH_NUMERIC_VALUE_TYPE(TQ_EXTERN_NUMERIC_PARAMETER)

@@ -1,7 +1,7 @@
 #pragma once
 #include "prm/basic/BasicParameter.h"
-#include "prm/basic/StaticParameterTypes.h"
 #include "prm/text/StaticValueText.h"
+#include "prm/text/StreamOperators.h"
 
 #include <QString>
 #include <QTextStream>
@@ -82,9 +82,5 @@ QString StaticParameter<T>::fromString(QString& text)
 {
     return StaticValueText<QString>::tRead(text);
 }
-
-#define TQ_EXTERN_STATIC_PARAMETER(T) extern template class StaticParameter<T>;
-TQ_FOR_EACH_STATIC_PARAMETER_TYPE(TQ_EXTERN_STATIC_PARAMETER)
-#undef TQ_EXTERN_STATIC_PARAMETER
 
 } // namespace Prm

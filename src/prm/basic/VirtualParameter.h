@@ -43,8 +43,29 @@ T VirtualParameter<T>::value() const
     return tValuePointer ? *tValuePointer : T{};
 }
 
-#define TQ_EXTERN_VIRTUAL_PARAMETER(T) extern template class VirtualParameter<T>;
-TQ_FOR_EACH_STATIC_PARAMETER_TYPE(TQ_EXTERN_VIRTUAL_PARAMETER)
-#undef TQ_EXTERN_VIRTUAL_PARAMETER
-
 } // namespace Prm
+
+/// Declares, at global scope, that `Prm::StaticParameter<T>` and `Prm::VirtualParameter<T>` are
+/// instantiated elsewhere: in the header of the folder that owns `T`, beside the one
+/// `TQ_INSTANTIATE_STATIC_PARAMETER(T)` in its .cpp file.
+#define TQ_EXTERN_STATIC_PARAMETER(T)                                                                       \
+    extern template class Prm::StaticParameter<T>;                                                          \
+    extern template class Prm::VirtualParameter<T>;
+
+/// Instantiates both templates for `T`, which needs QTextStream's `<<` and `>>` visible here.
+#define TQ_INSTANTIATE_STATIC_PARAMETER(T)                                                                  \
+    template class Prm::StaticParameter<T>;                                                                 \
+    template class Prm::VirtualParameter<T>;
+
+/// Calls `X(T)` once per value type of static and virtual parameters that the engine itself owns;
+/// StaticParameter.cpp instantiates each.
+#define TQ_FOR_EACH_STATIC_PARAMETER_TYPE(X)                                                                \
+    X(unsigned int)                                                                                         \
+    X(int)                                                                                                  \
+    X(float)                                                                                                \
+    X(double)                                                                                               \
+    X(bool)                                                                                                 \
+    X(unsigned char)                                                                                        \
+    X(QString)
+
+TQ_FOR_EACH_STATIC_PARAMETER_TYPE(TQ_EXTERN_STATIC_PARAMETER)

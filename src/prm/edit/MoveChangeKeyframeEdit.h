@@ -1,7 +1,6 @@
 #pragma once
 #include "prm/Parameter.h"
 #include "prm/edit/ParameterEdit.h"
-#include "prm/ParameterValueTypes.h"
 
 namespace Prm {
 
@@ -49,9 +48,5 @@ void MoveChangeKeyframeEdit<T>::undoIt()
     if (bDone)
         parameter->moveAndChangeKeyframe(tOldValue, fNewTime, fOldTime);
 }
-
-#define TQ_EXTERN_MOVE_CHANGE_KEYFRAME_EDIT(T) extern template class MoveChangeKeyframeEdit<T>;
-TQ_FOR_EACH_NUMERIC_VALUE_TYPE(TQ_EXTERN_MOVE_CHANGE_KEYFRAME_EDIT)
-#undef TQ_EXTERN_MOVE_CHANGE_KEYFRAME_EDIT
 
 } // namespace Prm

@@ -1,7 +1,6 @@
 #pragma once
 #include "prm/Parameter.h"
 #include "prm/edit/ParameterEdit.h"
-#include "prm/ParameterValueTypes.h"
 
 namespace Prm {
 
@@ -50,10 +49,5 @@ void ParameterAddConstrainedParameterEdit<T>::undoIt()
     slave->bUnconstrain();
     slave->vCopyKeyframeDataFrom(&savedSlave);
 }
-
-#define TQ_EXTERN_PARAMETER_ADD_CONSTRAINED_PARAMETER_EDIT(T) \
-    extern template class ParameterAddConstrainedParameterEdit<T>;
-TQ_FOR_EACH_VALUE_TYPE(TQ_EXTERN_PARAMETER_ADD_CONSTRAINED_PARAMETER_EDIT)
-#undef TQ_EXTERN_PARAMETER_ADD_CONSTRAINED_PARAMETER_EDIT
 
 } // namespace Prm

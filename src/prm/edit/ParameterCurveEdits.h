@@ -1,7 +1,6 @@
 #pragma once
 #include "prm/Parameter.h"
 #include "prm/edit/ParameterEdit.h"
-#include "prm/ParameterValueTypes.h"
 
 namespace Prm {
 
@@ -154,15 +153,5 @@ void ParameterExtrapolationEdit<T, bBefore>::vApply(Extrapolation extrapolation)
     else
         parameter->vSetExtrapolationAfter(extrapolation);
 }
-
-#define TQ_EXTERN_PARAMETER_CURVE_EDITS(T) \
-    extern template class ParameterInterpolationEdit<T>; \
-    extern template class ParameterInterpolationDataEdit<T>; \
-    extern template class ParameterExtrapolationEdit<T, true>; \
-    extern template class ParameterExtrapolationEdit<T, false>; \
-    extern template class ParameterExtrapolationBeforeEdit<T>; \
-    extern template class ParameterExtrapolationAfterEdit<T>;
-TQ_FOR_EACH_VALUE_TYPE(TQ_EXTERN_PARAMETER_CURVE_EDITS)
-#undef TQ_EXTERN_PARAMETER_CURVE_EDITS
 
 } // namespace Prm

@@ -1,7 +1,7 @@
 #pragma once
-/// Explicit instantiation of every edit template for one value type; used only by the ParameterEdits*.cpp
-/// files, which split the value types so that they build in parallel.
-#include "prm/edit/MoveChangeKeyframeEdit.h"
+/// Explicit instantiation of the edits of `Prm::Parameter<T>` for one value type; part of
+/// `TQ_INSTANTIATE_PARAMETER` (ParameterImpl.h). `Prm::MoveChangeKeyframeEdit<T>` belongs to the numeric
+/// instantiation.
 #include "prm/edit/ParameterAddConstrainedParameterEdit.h"
 #include "prm/edit/ParameterCurveEdits.h"
 #include "prm/edit/ParameterKeyEdits.h"
@@ -21,7 +21,3 @@
     template class Prm::ParameterDeleteAllKeysEdit<T>;                                                      \
     template class Prm::ParameterResetEdit<T>;                                                              \
     template class Prm::ParameterAddConstrainedParameterEdit<T>;
-
-#define TQ_INSTANTIATE_NUMERIC_PARAMETER_EDITS(T)                                                           \
-    TQ_INSTANTIATE_PARAMETER_EDITS(T)                                                                       \
-    template class Prm::MoveChangeKeyframeEdit<T>;

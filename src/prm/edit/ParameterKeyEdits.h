@@ -2,7 +2,6 @@
 #include "bsc/AbstractData.h"
 #include "prm/Parameter.h"
 #include "prm/edit/ParameterEdit.h"
-#include "prm/ParameterValueTypes.h"
 
 #include <QVector>
 
@@ -197,13 +196,5 @@ void ParameterResetEdit<T>::undoIt()
     parameter->iAddKeyframe(fTime);
     parameter->vSetRawValue(tOldValue, fTime);
 }
-
-#define TQ_EXTERN_PARAMETER_KEY_EDITS(T) \
-    extern template class ParameterAddKeyEdit<T>; \
-    extern template class ParameterDeleteKeyEdit<T>; \
-    extern template class ParameterDeleteAllKeysEdit<T>; \
-    extern template class ParameterResetEdit<T>;
-TQ_FOR_EACH_VALUE_TYPE(TQ_EXTERN_PARAMETER_KEY_EDITS)
-#undef TQ_EXTERN_PARAMETER_KEY_EDITS
 
 } // namespace Prm

@@ -1,7 +1,6 @@
 #pragma once
 #include "prm/Parameter.h"
 #include "prm/edit/ParameterEdit.h"
-#include "prm/ParameterValueTypes.h"
 
 namespace Prm {
 
@@ -87,11 +86,5 @@ void ParameterDefaultValueEdit<T>::undoIt()
 {
     parameter->vSetDefault(tOldDefault);
 }
-
-#define TQ_EXTERN_PARAMETER_VALUE_EDITS(T) \
-    extern template class ParameterValueEdit<T>; \
-    extern template class ParameterDefaultValueEdit<T>;
-TQ_FOR_EACH_VALUE_TYPE(TQ_EXTERN_PARAMETER_VALUE_EDITS)
-#undef TQ_EXTERN_PARAMETER_VALUE_EDITS
 
 } // namespace Prm

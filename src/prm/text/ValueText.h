@@ -1,7 +1,6 @@
 #pragma once
 #include "prm/text/StaticValueText.h"
 #include "prm/text/StreamOperators.h"
-#include "support/Enumerations.h"
 
 #include <QMetaType>
 #include <QString>
@@ -39,8 +38,8 @@ struct ValueText : StaticValueText<T> {
         return in.status() == QTextStream::Ok;
     }
 
-    /// The Qt type id that carries this value type in a `QVariant`; the enumerations register theirs on
-    /// first use (support/Enumerations.h).
+    /// The Qt type id that carries this value type in a `QVariant`; a value type that the engine does not
+    /// own registers its own, visible where it is instantiated.
     static int iMetaType() { return qMetaTypeId<T>(); }
 
     static QVariant variant(T const& value) { return QVariant(iMetaType(), &value); }

@@ -1,7 +1,7 @@
 #include "prm/Fixtures.h"
 #include "prm/basic/MovedParameter.h"
 #include "prm/basic/VirtualParameter.h"
-#include "support/Enumerations.h"
+#include "support/EnumerationParameters.h"
 
 TEST(StaticParameter, WritesOneLineQualifiedOrNotByEachTypesWriter)
 {

@@ -2,6 +2,7 @@
 #include "bsc/Command.h"
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
+#include "support/EnumerationParameters.h"
 
 #include <tuple>
 

@@ -1,6 +1,7 @@
 #include "prm/Fixtures.h"
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
+#include "support/EnumerationParameters.h"
 
 #include <tuple>
 

@@ -1,4 +1,0 @@
-#include "prm/edit/ParameterEditsInstantiation.h"
-
-TQ_INSTANTIATE_PARAMETER_EDITS(QString)
-TQ_FOR_EACH_ENUM_VALUE_TYPE(TQ_INSTANTIATE_PARAMETER_EDITS)
