@@ -29,7 +29,7 @@
 #include "prm/ParameterWithoutType.h"
 #include "prm/ValueConversion.h"
 #include "prm/text/CurveTypeNames.h"
-#include "prm/text/KeyframeDeclaration.h"
+#include "prm/text/ParameterLine.h"
 #include "prm/text/ParameterTextDocument.h"
 #include "prm/text/StreamOperators.h"
 #include "prm/text/ValueText.h"

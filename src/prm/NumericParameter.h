@@ -75,6 +75,7 @@ public:
     ParamExtrapolator<T> const* customExtrapolationMethod(Extrapolation extrapolation) const override;
     /// Reads one line without a text filter (the text format).
     virtual bool bStreamIn(QString const& line);
+    bool bStreamInLine(QString const& line) override;
 
     /// `unsigned int` and `float` only: scales every key's (clamped) value by `factor`; a parameter
     /// without keys is left alone.

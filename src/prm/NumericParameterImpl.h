@@ -237,6 +237,12 @@ bool NumericParameter<T>::bStreamOut(QTextStream& out, QString const& prefix, bo
 }
 
 template <class T>
+bool NumericParameter<T>::bStreamInLine(QString const& line)
+{
+    return bStreamIn(line);
+}
+
+template <class T>
 bool NumericParameter<T>::bStreamIn(QString const& line)
 {
     if (this->streamInValue(line, boost::function<QString(QString const&)>()))

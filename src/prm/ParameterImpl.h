@@ -10,8 +10,7 @@
 #include "prm/Parameter.h"
 #include "prm/edit/ParameterEditsInstantiation.h"
 #include "prm/text/CurveTypeNames.h"
-#include "prm/text/KeyframeDeclaration.h"
-#include "prm/text/TextField.h"
+#include "prm/text/ParameterLine.h"
 #include "prm/text/ValueText.h"
 
 #include <QCoreApplication>

@@ -1,5 +1,7 @@
 #include "prm/ParameterWithoutType.h"
 
+#include "bsc/Command.h"
+#include "prm/edit/ConstraintEdits.h"
 #include "prm/set/ParameterSet.h"
 
 namespace Prm {
@@ -120,6 +122,24 @@ void ParameterWithoutType::vRaise(ParameterChange::ParameterChanges kind, unsign
 {
     ParameterChange change(kind, this, index);
     emit changed(change);
+}
+
+bool ParameterWithoutType::bUnconstrainCommand(Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterUnconstrainEdit(this));
+    return true;
+}
+
+bool ParameterWithoutType::bRemoveConstrainedParameterCommand(ParameterWithoutType* follower,
+                                                              Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterRemoveConstrainedParameterEdit(this, follower));
+    return follower != nullptr;
+}
+
+bool ParameterWithoutType::bStreamInLine(QString const& line)
+{
+    return streamInValue(line, boost::function<QString(QString const&)>());
 }
 
 } // namespace Prm

@@ -1,6 +1,6 @@
 #pragma once
 #include "prm/basic/BasicParameter.h"
-#include "prm/text/StaticValueText.h"
+#include "prm/text/ValueText.h"
 #include "prm/text/StreamOperators.h"
 
 #include <QString>

@@ -1,7 +1,6 @@
 #include "prm/set/ParameterSet.h"
 
 #include "prm/basic/BasicParameter.h"
-#include "prm/NumericParameter.h"
 #include "prm/ParameterWithoutType.h"
 
 #include <QTextStream>
@@ -9,30 +8,6 @@
 namespace Prm {
 
 namespace {
-
-template <class T>
-bool bStreamInNumeric(ParameterWithoutType& parameter, QString const& line, bool& bRead)
-{
-    auto* numeric = dynamic_cast<NumericParameter<T>*>(&parameter);
-    if (numeric)
-        bRead = numeric->bStreamIn(line);
-    return numeric != nullptr;
-}
-
-// A numeric parameter reads through its own bStreamIn, which also repairs a failed key line; the
-// others take the line without a filter.
-bool bStreamInParameter(ParameterWithoutType& parameter, QString const& line)
-{
-    bool bRead = false;
-    if (dynamic_cast<NumericParameterWithoutType*>(&parameter)
-        && (bStreamInNumeric<double>(parameter, line, bRead) || bStreamInNumeric<float>(parameter, line, bRead)
-            || bStreamInNumeric<int>(parameter, line, bRead)
-            || bStreamInNumeric<unsigned int>(parameter, line, bRead)
-            || bStreamInNumeric<bool>(parameter, line, bRead)
-            || bStreamInNumeric<unsigned char>(parameter, line, bRead)))
-        return bRead;
-    return parameter.streamInValue(line, boost::function<QString(QString const&)>());
-}
 
 // The `index`-th of the basic parameters named `name`.
 bool bStreamInBasic(QVector<BasicParameter*> const& basicParameters, QString const& name, int index,
@@ -109,11 +84,7 @@ bool ParameterSet::bStreamIn(QString const& line)
         return false;
     QString const name = line.left(dot);
     QString const rest = line.mid(dot + 1);
-    auto const nameOf = [this](int position) -> QString const* {
-        ParameterWithoutType const* parameter = parameters.at(position).data();
-        return parameter ? &parameter->qstrScriptName() : nullptr;
-    };
-    QVector<int> const positions = lineRouter.positionsOf(name, parameters.size(), nameOf);
+    QVector<int> const positions = positionsOf(name);
     int basicCount = 0;
     for (BasicParameter* parameter : basicParameters) {
         if (parameter && parameter->scriptName() == name)
@@ -122,7 +93,7 @@ bool ParameterSet::bStreamIn(QString const& line)
     int const count = positions.size() + basicCount;
     if (count > 0) {
         int const chosen = count > 1 ? lineRouter.iChoose(name, count, eTextField(rest)) : 0;
-        if (chosen < positions.size() ? bStreamInParameter(*parameters.at(positions.at(chosen)), rest)
+        if (chosen < positions.size() ? parameters.at(positions.at(chosen))->bStreamInLine(rest)
                                       : bStreamInBasic(basicParameters, name, chosen - positions.size(), rest))
             return true;
     }
@@ -131,6 +102,35 @@ bool ParameterSet::bStreamIn(QString const& line)
             return true;
     }
     return false;
+}
+
+bool ParameterSet::bIndexHolds(QVector<int> const& positions, QString const& name) const
+{
+    if (positions.isEmpty())
+        return false;
+    for (int position : positions) {
+        ParameterWithoutType const* parameter = parameters.at(position).data();
+        if (!parameter || parameter->qstrScriptName() != name)
+            return false;
+    }
+    return true;
+}
+
+QVector<int> ParameterSet::positionsOf(QString const& name)
+{
+    int const count = parameters.size();
+    if (count == iIndexedCount) {
+        auto const found = nameIndex.constFind(name);
+        if (found != nameIndex.constEnd() && bIndexHolds(*found, name))
+            return *found;
+    }
+    nameIndex.clear();
+    for (int position = 0; position < count; ++position) {
+        if (ParameterWithoutType const* parameter = parameters.at(position).data())
+            nameIndex[parameter->qstrScriptName()].append(position);
+    }
+    iIndexedCount = count;
+    return nameIndex.value(name);
 }
 
 void ParameterSet::assignName(QString const& name)

@@ -2,6 +2,7 @@
 #include "prm/text/ParameterLineRouter.h"
 #include "prm/set/ParameterTree.h"
 
+#include <QHash>
 #include <QPointer>
 #include <QString>
 #include <QVector>
@@ -65,8 +66,16 @@ private:
     QString displayName;
     QString scriptName;
     QVector<QPointer<ParameterWithoutType>> parameters;
-    // Reading state of parameters that share a script name; never copied or assigned.
+    // Reading state, never copied or assigned: where each script name sits in `parameters`, for the
+    // parameter count it was built at, and the choice among parameters that share a name.
+    QHash<QString, QVector<int>> nameIndex;
+    int iIndexedCount = -1;
     ParameterLineRouter lineRouter;
+
+    /// Positions in `parameters` of those named `name`, from `nameIndex`, which is rebuilt when the count
+    /// changed, when the name is not in it, or when a listed parameter is gone or renamed.
+    QVector<int> positionsOf(QString const& name);
+    bool bIndexHolds(QVector<int> const& positions, QString const& name) const;
 };
 
 } // namespace Prm

@@ -1,9 +1,8 @@
 #pragma once
-#include "prm/text/TextField.h"
+#include "prm/text/ParameterLine.h"
 
 #include <QHash>
 #include <QString>
-#include <QVector>
 
 namespace Prm {
 
@@ -21,53 +20,12 @@ public:
     /// of `field`. A line of unknown field goes to the current block and changes nothing.
     int iChoose(QString const& name, int candidateCount, TextField field);
 
-    /// Positions, among `count` parameters, of those named `name`, from a name index that is rebuilt
-    /// with `nameOf(position)` (null for a parameter gone) when the count changed, when the name is not
-    /// in it, or when a listed parameter no longer carries the name.
-    template <class NameOf>
-    QVector<int> positionsOf(QString const& name, int count, NameOf nameOf);
-
 private:
-    template <class NameOf>
-    bool bIndexHolds(QVector<int> const& positions, QString const& name, NameOf nameOf) const;
-
     struct Cursor {
         int iCandidate = 0;
         TextField eLast = TextField::Unknown;
     };
     QHash<QString, Cursor> cursors;
-    QHash<QString, QVector<int>> nameIndex;
-    int iIndexedCount = -1;
 };
-
-template <class NameOf>
-bool ParameterLineRouter::bIndexHolds(QVector<int> const& positions, QString const& name, NameOf nameOf) const
-{
-    if (positions.isEmpty())
-        return false;
-    for (int position : positions) {
-        QString const* current = nameOf(position);
-        if (!current || *current != name)
-            return false;
-    }
-    return true;
-}
-
-template <class NameOf>
-QVector<int> ParameterLineRouter::positionsOf(QString const& name, int count, NameOf nameOf)
-{
-    if (count == iIndexedCount) {
-        auto const found = nameIndex.constFind(name);
-        if (found != nameIndex.constEnd() && bIndexHolds(*found, name, nameOf))
-            return *found;
-    }
-    nameIndex.clear();
-    for (int position = 0; position < count; ++position) {
-        if (QString const* current = nameOf(position))
-            nameIndex[*current].append(position);
-    }
-    iIndexedCount = count;
-    return nameIndex.value(name);
-}
 
 } // namespace Prm

@@ -1,5 +1,5 @@
 #include "prm/text/CurveTypeNames.h"
-#include "prm/text/KeyframeDeclaration.h"
+#include "prm/text/ParameterLine.h"
 #include "prm/text/StreamOperators.h"
 #include "prm/text/ValueText.h"
 

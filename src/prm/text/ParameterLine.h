@@ -1,5 +1,8 @@
 #pragma once
+/// The parts of one line of a parameter's text: the field word that opens it, the text behind `=`, and
+/// the entries of a key line. Stateless functions; none fails or throws.
 #include <QString>
+#include <QStringList>
 
 namespace Prm {
 
@@ -29,5 +32,14 @@ QString qstrValueText(QString const& line);
 
 /// A flag line's text read as a base-10 integer: true when not 0 (unparsable text is 0).
 bool bFlagOfLine(QString const& line);
+
+/// Splits a key line ("keyframes.append( Key( 1, 0.5, Linear ) )" or its "BezierKey" form, in any case)
+/// into the arguments of the inner call: entry 0 the time, entry 1 the value, then the interpolation name or
+/// the four Bezier numbers. The arguments start after the last opening parenthesis in front of the first
+/// comma and end at the parenthesis that closes that call (or at the end of the line). Commas and
+/// parentheses between double quotes do not count, so a quoted text value may hold them. Each entry is
+/// trimmed of blanks outside its quotes. A line without an opening parenthesis in front of its first comma
+/// gives no entries; no line makes this fail or throw.
+QStringList parseKeyframeDeclaration(QString line);
 
 } // namespace Prm
