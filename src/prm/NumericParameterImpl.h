@@ -277,8 +277,10 @@ Bsc::CompositeCommand& NumericParameter<T>::moveKeyframeAsDoubleCommand(double v
 
 } // namespace Prm
 
-/// `TQ_INSTANTIATE_PARAMETER` for a numeric value type: both templates and all their edits.
+/// `TQ_INSTANTIATE_PARAMETER` for a numeric value type: both templates, all their edits and the curve
+/// methods.
 #define TQ_INSTANTIATE_NUMERIC_PARAMETER(T)                                                                 \
     TQ_INSTANTIATE_PARAMETER(T)                                                                             \
     template class Prm::NumericParameter<T>;                                                                \
-    template class Prm::MoveChangeKeyframeEdit<T>;
+    template class Prm::MoveChangeKeyframeEdit<T>;                                                          \
+    TQ_INSTANTIATE_CURVE(T)

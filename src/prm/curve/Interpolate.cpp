@@ -28,17 +28,4 @@ bool bBezierAt(double tL, double vL, double tN, double vN, IType const& record, 
 
 } // namespace detail
 
-#define TQ_INSTANTIATE_CURVE(T)                                                                                    \
-    template T Interpolate<T>(QVector<KeyframeData<T>> const&, QVector<IType> const&, Interpolation, float, int,    \
-                              Cache*);                                                                             \
-    template T Extrapolate<T>(QVector<KeyframeData<T>> const&, QVector<IType> const&, Extrapolation, float, bool,   \
-                              Cache*);
-
-TQ_INSTANTIATE_CURVE(bool)
-TQ_INSTANTIATE_CURVE(unsigned char)
-TQ_INSTANTIATE_CURVE(int)
-TQ_INSTANTIATE_CURVE(unsigned int)
-TQ_INSTANTIATE_CURVE(float)
-TQ_INSTANTIATE_CURVE(double)
-
 } // namespace Prm

@@ -105,29 +105,11 @@ T Extrapolate(QVector<KeyframeData<T>> const& keys, QVector<IType> const& record
     return tFromDouble<T>((double(time) - tE) * ((vP - vE) / (tP - tE)) + vE);
 }
 
-extern template bool Interpolate<bool>(QVector<KeyframeData<bool>> const&, QVector<IType> const&, Interpolation,
-                                       float, int, Cache*);
-extern template unsigned char Interpolate<unsigned char>(QVector<KeyframeData<unsigned char>> const&,
-                                                         QVector<IType> const&, Interpolation, float, int, Cache*);
-extern template int Interpolate<int>(QVector<KeyframeData<int>> const&, QVector<IType> const&, Interpolation, float,
-                                     int, Cache*);
-extern template unsigned int Interpolate<unsigned int>(QVector<KeyframeData<unsigned int>> const&,
-                                                       QVector<IType> const&, Interpolation, float, int, Cache*);
-extern template float Interpolate<float>(QVector<KeyframeData<float>> const&, QVector<IType> const&, Interpolation,
-                                         float, int, Cache*);
-extern template double Interpolate<double>(QVector<KeyframeData<double>> const&, QVector<IType> const&,
-                                           Interpolation, float, int, Cache*);
-extern template bool Extrapolate<bool>(QVector<KeyframeData<bool>> const&, QVector<IType> const&, Extrapolation,
-                                       float, bool, Cache*);
-extern template unsigned char Extrapolate<unsigned char>(QVector<KeyframeData<unsigned char>> const&,
-                                                         QVector<IType> const&, Extrapolation, float, bool, Cache*);
-extern template int Extrapolate<int>(QVector<KeyframeData<int>> const&, QVector<IType> const&, Extrapolation, float,
-                                     bool, Cache*);
-extern template unsigned int Extrapolate<unsigned int>(QVector<KeyframeData<unsigned int>> const&,
-                                                       QVector<IType> const&, Extrapolation, float, bool, Cache*);
-extern template float Extrapolate<float>(QVector<KeyframeData<float>> const&, QVector<IType> const&, Extrapolation,
-                                         float, bool, Cache*);
-extern template double Extrapolate<double>(QVector<KeyframeData<double>> const&, QVector<IType> const&,
-                                           Extrapolation, float, bool, Cache*);
-
 } // namespace Prm
+
+/// Instantiates both curve methods for one value type; part of `TQ_INSTANTIATE_NUMERIC_PARAMETER`.
+#define TQ_INSTANTIATE_CURVE(T)                                                                             \
+    template T Prm::Interpolate<T>(QVector<Prm::KeyframeData<T>> const&, QVector<Prm::IType> const&,        \
+                                   Prm::Interpolation, float, int, Prm::Cache*);                            \
+    template T Prm::Extrapolate<T>(QVector<Prm::KeyframeData<T>> const&, QVector<Prm::IType> const&,        \
+                                   Prm::Extrapolation, float, bool, Prm::Cache*);
