@@ -1,7 +1,6 @@
 #include "prm/Fixtures.h"
 #include "prm/basic/MovedParameter.h"
 #include "prm/basic/VirtualParameter.h"
-#include "support/EnumerationParameters.h"
 
 TEST(StaticParameter, WritesOneLineQualifiedOrNotByEachTypesWriter)
 {
@@ -15,11 +14,9 @@ TEST(StaticParameter, WritesOneLineQualifiedOrNotByEachTypesWriter)
 
     bool flag = true;
     unsigned char byte = 200;
-    _TQ_CLIP_MODE mode = TQ_CLIP_MODE_PING_PONG;
     QString text = "a \"quoted\" word";
     EXPECT_EQ(qstrStreamed(Prm::VirtualParameter<bool>("Flag", &flag), ""), "Flag.value=1\n");
     EXPECT_EQ(qstrStreamed(Prm::VirtualParameter<unsigned char>("Byte", &byte), ""), "Byte.value=200\n");
-    EXPECT_EQ(qstrStreamed(Prm::VirtualParameter<_TQ_CLIP_MODE>("Mode", &mode), ""), "Mode.value=3\n");
     // Nothing inside a text is escaped.
     EXPECT_EQ(qstrStreamed(Prm::VirtualParameter<QString>("Name", &text), ""), "Name.value=\"a \"quoted\" word\"\n");
 }

@@ -2,7 +2,6 @@
 #include "bsc/Command.h"
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
-#include "support/EnumerationParameters.h"
 
 #include <tuple>
 
@@ -151,21 +150,16 @@ TEST(EditValue, InterpolationAndExtrapolationEditsUndo)
     EXPECT_EQ(parameter.extrapolationAfter(), Prm::ExtrapolationCustomFirst);
 }
 
-TEST(EditValue, TextAndEnumerationParametersUndoAlike)
+TEST(EditValue, TextParametersUndoAlike)
 {
     Prm::Parameter<QString> name(true, "Name", QString("static"), Prm::InterpolationStep, Prm::ExtrapolationHold);
-    Prm::Parameter<TQ_BlendMode> mode(false, "Mode", TQ_BLEND_MODE_DEFAULT, Prm::InterpolationStep,
-                                      Prm::ExtrapolationHold);
     Bsc::CompositeCommand composite;
     name.vSetValueCommand("first", 1.0f, composite);
     name.vSetValueCommand("second", 2.0f, composite);
-    mode.vSetValueCommand(static_cast<TQ_BlendMode>(4), 0.0f, composite);
     composite.doIt();
     EXPECT_EQ(name.keyframeCount(), 2u);
     EXPECT_EQ(name.value(1.5f, nullptr), "first");
-    EXPECT_EQ(mode.staticValue(), 4);
     composite.undoIt();
     EXPECT_EQ(name.keyframeCount(), 0u);
     EXPECT_EQ(name.value(1.5f, nullptr), "static");
-    EXPECT_EQ(mode.staticValue(), TQ_BLEND_MODE_DEFAULT);
 }

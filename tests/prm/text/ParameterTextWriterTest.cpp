@@ -1,7 +1,6 @@
 #include "prm/Fixtures.h"
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
-#include "support/EnumerationParameters.h"
 
 #include <tuple>
 
@@ -130,10 +129,4 @@ TEST(ParameterTextWriter, ValueStringsAndVariants)
     EXPECT_FALSE(clamped.bKeyframeAt(4.0f)) << "a variant that cannot convert changes nothing";
     Prm::Parameter<float> real(false, "Real", 0.0f, Prm::InterpolationStep, Prm::ExtrapolationHold);
     EXPECT_EQ(real.exportValueAt(0.0f).userType(), int(QMetaType::Float));
-    Prm::Parameter<TQ_BlendMode> blend(false, "Blend", TQ_BlendMode(3), Prm::InterpolationStep,
-                                       Prm::ExtrapolationHold);
-    QVariant const blendVariant = blend.exportValueAt(0.0f);
-    EXPECT_STREQ(blendVariant.typeName(), "TQ_BlendMode");
-    blend.importValueAt(0.0f, blendVariant);
-    EXPECT_EQ(blend.staticValue(), TQ_BlendMode(3));
 }
