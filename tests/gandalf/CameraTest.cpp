@@ -245,7 +245,8 @@ TEST(Camera, PointsOutsideAModelsDomainFailAndLeaveTheOutput)
         {"equi-solid-angle past 90 degrees", GAN_EQUI_SOLID_ANGLE_CAMERA, {}, {kNaN, 0}, {1, 1}},
         // 1 - 0.9 x^2 vanishes at x = 1.054; y alone stays regular
         {"anamorphic past the fold", GAN_XY_DISTORTION_4, {-0.3, 0, 0, 0.1}, {1.1, 0.1}, {0.71, 0}},
-        {"anamorphic folded by the cross term", GAN_XY_DISTORTION_4, {0, -2, 0, 0}, {0.3, 0.8}, {kNaN, 0}},
+        // diagonal 1 + y^2 and 1 + x^2, determinant 1 + x^2 + y^2 - 3 x^2 y^2
+        {"anamorphic folded by the cross terms", GAN_XY_DISTORTION_4, {0, 1, 1, 0}, {1.3, -1.3}, {kNaN, 0}},
         {"reserved 10", GAN_RESERVED_CAMERA_10, {}, {0, 0}, {0, 0}},
         {"reserved 11", GAN_RESERVED_CAMERA_11, {}, {0, 0}, {0, 0}},
         {"unknown", static_cast<Gan_CameraType>(99), {}, {0, 0}, {0, 0}},
