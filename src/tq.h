@@ -67,3 +67,9 @@
 // --- modules
 #include "modules/ClipBoundParameterSet.h"
 #include "modules/CopyDepartures.h"
+#include "modules/LayerParameterSet.h"
+#include "modules/MatteParameterSet.h"
+#include "modules/ParameterTable.h"
+#include "modules/RemoveParameterSet.h"
+#include "modules/StabilizeParameterSet.h"
+#include "modules/TrackingParameterSet.h"
