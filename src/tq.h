@@ -68,3 +68,11 @@
 #include "camera/FilmTypeFactory.h"
 
 // --- modules
+#include "modules/ClipBoundParameterSet.h"
+#include "modules/CopyDepartures.h"
+#include "modules/LayerParameterSet.h"
+#include "modules/MatteParameterSet.h"
+#include "modules/ParameterTable.h"
+#include "modules/RemoveParameterSet.h"
+#include "modules/StabilizeParameterSet.h"
+#include "modules/TrackingParameterSet.h"
