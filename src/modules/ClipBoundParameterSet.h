@@ -1,7 +1,7 @@
 #pragma once
-#include "prm/MovedParameter.h"
+#include "prm/basic/MovedParameter.h"
 #include "prm/Parameter.h"
-#include "prm/ParameterSet.h"
+#include "prm/set/ParameterSet.h"
 
 #include <QString>
 #include <boost/shared_ptr.hpp>

@@ -5,7 +5,7 @@
 #include "modules/StabilizeParameterSet.h"
 #include "modules/TrackingParameterSet.h"
 #include "prm/Fixtures.h"
-#include "prm/ParameterTextDocument.h"
+#include "prm/text/ParameterTextDocument.h"
 
 #include <gtest/gtest.h>
 
