@@ -5,6 +5,7 @@
 /// The member structs of the sets live in this namespace so that the rows read without qualification.
 #include "modules/ClipBoundParameterSet.h"
 #include "prm/NumericParameter.h"
+#include "support/EnumerationParameters.h"
 
 #include <limits>
 
