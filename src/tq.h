@@ -56,8 +56,11 @@
 // --- clip
 #include "clip/BaseClipInfo.h"
 #include "clip/BaseClipInfoContainer.h"
+#include "clip/ClipInfo.h"
+#include "clip/ColourspaceParameters.h"
 #include "clip/FrameOffsetParameter.h"
 #include "clip/IBaseClip.h"
+#include "clip/IClip.h"
 #include "clip/LookupTableHelperMethods.h"
 
 // --- camera
