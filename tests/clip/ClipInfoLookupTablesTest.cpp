@@ -194,3 +194,20 @@ TEST(ClipInfoLookupTables, WhichTablesExist)
     clip.CreateLUTs();
     EXPECT_EQ(0, count());
 }
+
+TEST(ClipInfoLookupTables, ValuesFromTextOutsideTheirRangeAreSurvived)
+{
+    // Any float may arrive through the text; building must stay defined for all of them.
+    float const nan = std::numeric_limits<float>::quiet_NaN(), inf = std::numeric_limits<float>::infinity();
+    float const gammas[] = {0.0f, -1.0f, nan, inf, 1e-30f};
+    for (int colourspace = 0; colourspace < 3; ++colourspace) {
+        for (float gamma : gammas) {
+            TQ_ClipInfo clip;
+            TQ_ColourspaceParameters& c = clip.colourspace;
+            c.colourspace = _TQ_COLORSPACE(colourspace), c.gamma = gamma;
+            c.softClip = nan, c.offset = -1e30f, c.refBlack = 2000.0f, c.refWhite = -5.0f;
+            clip.CreateLUTs();
+            EXPECT_EQ(c.bConversionRequired(), c.lutFloatTo16 != nullptr) << colourspace << " " << gamma;
+        }
+    }
+}
