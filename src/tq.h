@@ -45,12 +45,16 @@
 #include "prm/VirtualParameter.h"
 
 // --- support
+#include "support/AutoLock.h"
 #include "support/BlendMode.h"
+#include "support/CallbackStruct.h"
 #include "support/Enumerations.h"
 #include "support/Exception.h"
 #include "support/GandalfFailure.h"
+#include "support/RenderSuite.h"
 #include "support/ShapeDataFormat.h"
 #include "support/Strings.h"
+#include "support/VertexInfo.h"
 #include "support/XMLErrorHandler.h"
 
 // --- clip
