@@ -52,29 +52,17 @@ QStringList namesOf(TQ_ClipInfo const& clip)
 // Every member, one by one; the colourspace by its own comparison plus the fields it leaves out.
 void expectSameMembers(TQ_ClipInfo const& a, TQ_ClipInfo const& b)
 {
-    EXPECT_EQ(a.ReadOnly, b.ReadOnly);
-    EXPECT_EQ(a.Hidden, b.Hidden);
-    EXPECT_EQ(a.DiscreteFrames, b.DiscreteFrames);
-    EXPECT_EQ(a.Predefined, b.Predefined);
-    EXPECT_EQ(a.ClipDirectory, b.ClipDirectory);
-    EXPECT_EQ(a.ClipPrefix, b.ClipPrefix);
-    EXPECT_EQ(a.ClipSuffix, b.ClipSuffix);
-    EXPECT_EQ(a.MinimumIndex, b.MinimumIndex);
-    EXPECT_EQ(a.MaximumIndex, b.MaximumIndex);
-    EXPECT_EQ(a.IndexWidth, b.IndexWidth);
+#define EXPECT_SAME(member) EXPECT_EQ(a.member, b.member) << #member;
+    EXPECT_SAME(ReadOnly) EXPECT_SAME(Hidden) EXPECT_SAME(DiscreteFrames) EXPECT_SAME(Predefined)
+    EXPECT_SAME(ClipDirectory) EXPECT_SAME(ClipPrefix) EXPECT_SAME(ClipSuffix) EXPECT_SAME(MinimumIndex)
+    EXPECT_SAME(MaximumIndex) EXPECT_SAME(IndexWidth) EXPECT_SAME(SingleFrame) EXPECT_SAME(Linear)
+    EXPECT_SAME(Reapply32Pulldown) EXPECT_SAME(ImageFormatOfFile) EXPECT_SAME(ImageDataTypeOfFile)
+    EXPECT_SAME(ProcessBits) EXPECT_SAME(HasIndex) EXPECT_SAME(OriginalImageFormat) EXPECT_SAME(sourceDataType)
+    EXPECT_SAME(ProxyScale)
+#undef EXPECT_SAME
     EXPECT_EQ(framesOf(a), framesOf(b));
-    EXPECT_EQ(a.SingleFrame, b.SingleFrame);
     EXPECT_TRUE(a.colourspace.equals(b.colourspace, 0.0f));
-    EXPECT_EQ(a.Linear, b.Linear);
-    EXPECT_EQ(a.Reapply32Pulldown, b.Reapply32Pulldown);
-    EXPECT_EQ(a.ImageFormatOfFile, b.ImageFormatOfFile);
-    EXPECT_EQ(a.ImageDataTypeOfFile, b.ImageDataTypeOfFile);
-    EXPECT_EQ(a.ProcessBits, b.ProcessBits);
-    EXPECT_EQ(a.HasIndex, b.HasIndex);
-    EXPECT_EQ(a.OriginalImageFormat, b.OriginalImageFormat);
-    EXPECT_EQ(a.sourceDataType, b.sourceDataType);
     EXPECT_EQ(0, std::memcmp(&a.imageHeaderInfo, &b.imageHeaderInfo, sizeof a.imageHeaderInfo));
-    EXPECT_EQ(a.ProxyScale, b.ProxyScale);
 }
 
 // Every streamed member away from its default.
