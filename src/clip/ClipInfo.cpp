@@ -16,9 +16,9 @@ namespace {
 
 using DiscreteFrame = TQ_ClipInfo::DiscreteFrame;
 
-// Longest index text firstFileName pads to: no file system takes longer names, and a width read from
-// text must not make it allocate gigabytes.
-unsigned int const uiMaximumIndexWidth = 255;
+// Longest index text firstFileName pads to: far beyond any real name, while a width read from text
+// cannot make it allocate gigabytes.
+unsigned int const uiMaximumIndexWidth = 1u << 20;
 
 void vDeleteFrame(void* record)
 {

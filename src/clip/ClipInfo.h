@@ -49,7 +49,7 @@ public:
     /// "IndexWidth") only when `withSequenceParameters` is true. Pointers into the old list die here.
     void init(bool withSequenceParameters);
     /// "ClipDirectory/ClipPrefix[index]ClipSuffix": the directory without trailing '/' or '\', the index
-    /// ("MinimumIndex" zero-padded to "IndexWidth", at most 255 digits) only when "HasIndex" is 1.
+    /// ("MinimumIndex" zero-padded to "IndexWidth", at most 2^20 digits) only when "HasIndex" is 1.
     QString firstFileName() const;
     /// Frees the colourspace's tables and, when a conversion is required, builds all of them for the
     /// current "Colourspace", "Gamma" and film values. Call it after those have their final values.

@@ -143,10 +143,15 @@ TEST(ClipInfo, FirstFileName)
     discrete.vAppendDiscreteFrame("/elsewhere/a.tif", 3);
     EXPECT_EQ("/d/f", discrete.firstFileName());
 
-    // A width read from text is bounded instead of allocating gigabytes.
+    // Any sensible width pads in full; a width read from text is bounded instead of allocating gigabytes.
     TQ_ClipInfo wide;
-    wide.HasIndex = TQ_TRUE, wide.MinimumIndex = 5, wide.IndexWidth = 0xFFFFFFFFu;
-    EXPECT_EQ(QString(254, '0') + "5", wide.firstFileName().mid(1));
+    wide.HasIndex = TQ_TRUE, wide.MinimumIndex = 5;
+    for (unsigned int const width : {300u, 1u << 20}) {
+        wide.IndexWidth = width;
+        EXPECT_EQ(QString(int(width) - 1, '0') + "5", wide.firstFileName().mid(1)) << width;
+    }
+    wide.IndexWidth = 0xFFFFFFFFu;
+    EXPECT_EQ(1 + (1 << 20), wide.firstFileName().size());
 }
 
 TEST(ClipInfo, DiscreteFrameLinesOut)
