@@ -342,11 +342,8 @@ bool TQ_ClipInfo::bStreamIn(QString const& line)
     QRegExp matcher(pattern);
     if (matcher.indexIn(line) < 0)
         return false;
-    bool bNumber = false;
-    unsigned int const frame = matcher.cap(2).toUInt(&bNumber, 10);
-    if (!bNumber)
-        return false;
-    vAppendDiscreteFrame(matcher.cap(1).toUtf8(), frame);
+    // Digits beyond the unsigned range read as 0, as the number reader gives them; the line still counts.
+    vAppendDiscreteFrame(matcher.cap(1).toUtf8(), matcher.cap(2).toUInt(nullptr, 10));
     return true;
 }
 

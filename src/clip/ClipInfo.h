@@ -66,9 +66,9 @@ public:
     /// here until `init` runs again.
     bool bStreamOut(QTextStream& out, QString const& prefix, bool bQualify) override;
     /// Takes a parameter line, or a "Frames." line (any case) that holds "DiscreteFrame( name, number )",
-    /// which appends one frame and creates the list when needed. A damaged frame line, or a number above
-    /// 0xFFFFFFFF, is refused with false, creating nothing and keeping the frames already read. Setting
-    /// "DiscreteFrames" is left to its own line.
+    /// which appends one frame and creates the list when needed; a number above 0xFFFFFFFF reads as 0. A
+    /// damaged frame line is refused with false, creating nothing and keeping the frames already read.
+    /// Setting "DiscreteFrames" is left to its own line.
     bool bStreamIn(QString const& line) override;
 
     /// The frame list, or null when none exists. The clip (or the clips sharing it) owns it; walk it with

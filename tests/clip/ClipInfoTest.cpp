@@ -201,22 +201,24 @@ TEST(ClipInfo, DiscreteFrameLinesIn)
     // Refused lines create no list.
     for (char const* line : {"Frames.DiscreteFrame( x )", "Frames.discreteframe( x, 1 )",
                              "Other.keyframes.append( DiscreteFrame( x, 1 ) )", "Frames.DiscreteFrame( , 1 )",
-                             "Frames.DiscreteFrame( x, 4294967296 )", "Frames.DiscreteFrame( x, -1 )", "Frames"}) {
+                             "Frames.DiscreteFrame( x, -1 )", "Frames"}) {
         EXPECT_FALSE(clip.bStreamIn(line)) << line;
         EXPECT_EQ(nullptr, clip.discreteFrameList()) << line;
     }
     QByteArray const longName = QByteArray(5000, 'q');
     for (QString const& line : QStringList{"frames.keyframes.append( DiscreteFrame( a, b.tif, 12 ) )",
                                "FRAMES.xDiscreteFrame(c.tif,7)yz", "Frames.DiscreteFrame(\td , 1, 2 ,  0042 )",
-                               "Frames.DiscreteFrame( " + QString(longName) + ", 4294967295 )"})
+                               "Frames.DiscreteFrame( " + QString(longName) + ", 4294967295 )",
+                               "Frames.DiscreteFrame( big, 4294967296 )"})
         EXPECT_TRUE(clip.bStreamIn(line)) << line.toStdString();
     // A damaged line after good ones loses nothing.
     EXPECT_FALSE(clip.bStreamIn("Frames.keyframes.append( DiscreteFrame( broken"));
-    Frames const expected = {{"a, b.tif", 12}, {"c.tif", 7}, {"d , 1, 2 ", 42}, {longName, 4294967295u}};
+    Frames const expected = {{"a, b.tif", 12}, {"c.tif", 7}, {"d , 1, 2 ", 42}, {longName, 4294967295u},
+                             {"big", 0}};
     EXPECT_EQ(expected, framesOf(clip));
     // A frame line does not make the clip discrete.
     EXPECT_EQ(TQ_FALSE, clip.DiscreteFrames);
-    EXPECT_EQ(4, gan_list_get_size(clip.discreteFrameList()));
+    EXPECT_EQ(5, gan_list_get_size(clip.discreteFrameList()));
 }
 
 TEST(ClipInfo, NumberedClipTextRoundTrip)
