@@ -1,6 +1,7 @@
 // The tables a clip builds for each colourspace, checked against the curves written out here in double
 // precision, and the float-input tables by looking the forward tables' own values back up.
 #include "clip/ClipInfo.h"
+#include "clip/LookupTableHelperMethods.h"
 
 #include <Imath/half.h>
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@
 #include <cstring>
 #include <functional>
 #include <limits>
+#include <vector>
 
 namespace {
 
@@ -209,5 +211,64 @@ TEST(ClipInfoLookupTables, ValuesFromTextOutsideTheirRangeAreSurvived)
             clip.CreateLUTs();
             EXPECT_EQ(c.bConversionRequired(), c.lutFloatTo16 != nullptr) << colourspace << " " << gamma;
         }
+    }
+}
+
+// Each table is exactly what its builder gives for the clip's own values, with the forward float table
+// and segment floats it reads: a swapped argument or a table built from the wrong forward one shows here.
+TEST(ClipInfoLookupTables, EachTableIsItsBuildersOutput)
+{
+    for (int colourspace = 0; colourspace < 3; ++colourspace) {
+        SCOPED_TRACE(colourspace);
+        TQ_ClipInfo clip;
+        TQ_ColourspaceParameters& c = clip.colourspace;
+        c.colourspace = _TQ_COLORSPACE(colourspace);
+        c.gamma = 0.6f, c.offset = 20.0f, c.refWhite = 700.0f, c.refBlack = 90.0f, c.softClip = 25.0f;
+        clip.CreateLUTs();
+
+        std::vector<unsigned short> a(256), c16(65536), d(65536), i(65536);
+        std::vector<unsigned char> b(65536), g(65536);
+        std::vector<float> f(256), h(65536);
+        float s8[5] = {}, s16[5] = {};
+        float const o = c.offset, w = c.refWhite, k = c.refBlack, gm = c.gamma, sc = c.softClip, inv = 1.0f / gm;
+        float* const z = nullptr;
+        if (colourspace == 0) {
+            gbCreate16BitGammaLookup(8, gm, a.data(), z, z, z, z, z, z);
+            gbCreate8BitGammaLookup(16, inv, b.data(), z, z, z, z, z, z);
+            gbCreate16BitGammaLookup(16, gm, c16.data(), z, z, z, z, z, z);
+            gbCreate16BitGammaLookup(16, inv, d.data(), z, z, z, z, z, z);
+            gbCreate32BitFloatGammaLookup(8, gm, f.data());
+            gbCreate8BitGammaLookup(32, inv, g.data(), &s8[0], &s8[1], &s8[2], &s8[3], &s8[4], f.data());
+            gbCreate32BitFloatGammaLookup(16, gm, h.data());
+            gbCreate16BitGammaLookup(32, inv, i.data(), &s16[0], &s16[1], &s16[2], &s16[3], &s16[4], h.data());
+        } else if (colourspace == 1) {
+            gbCreate16BitLogLinLookup(8, o, w, k, gm, sc, a.data());
+            gbCreate8BitLinLogLookup(16, o, w, k, gm, sc, b.data(), z, z, z, z, z, z);
+            gbCreate16BitLogLinLookup(16, o, w, k, gm, sc, c16.data());
+            gbCreate16BitLinLogLookup(16, o, w, k, gm, sc, d.data(), z, z, z, z, z, z);
+            gbCreate32BitFloatLogLinLookup(8, o, w, k, gm, sc, f.data());
+            gbCreate8BitLinLogLookup(32, o, w, k, gm, sc, g.data(), &s8[0], &s8[1], &s8[2], &s8[3], &s8[4],
+                                     f.data());
+            gbCreate32BitFloatLogLinLookup(16, o, w, k, gm, sc, h.data());
+            gbCreate16BitLinLogLookup(32, o, w, k, gm, sc, i.data(), &s16[0], &s16[1], &s16[2], &s16[3], &s16[4],
+                                      h.data());
+        } else {
+            gbCreate16BitPanalogLinLookup(8, a.data(), false);
+            gbCreate8BitLinPanalogLookup(16, b.data(), z, z, z, z, z, z);
+            gbCreate16BitPanalogLinLookup(16, c16.data(), false);
+            gbCreate16BitLinPanalogLookup(16, d.data(), z, z, z, z, z, z);
+            gbCreate32BitFloatPanalogLinLookup(8, f.data(), true);
+            gbCreate8BitLinPanalogLookup(32, g.data(), &s8[0], &s8[1], &s8[2], &s8[3], &s8[4], f.data());
+            gbCreate32BitFloatPanalogLinLookup(16, h.data(), true);
+            gbCreate16BitLinPanalogLookup(32, i.data(), &s16[0], &s16[1], &s16[2], &s16[3], &s16[4], h.data());
+        }
+        auto const same = [](void const* table, auto const& expected) {
+            return table && std::memcmp(table, expected.data(), expected.size() * sizeof expected[0]) == 0;
+        };
+        EXPECT_TRUE(same(c.lut8To16, a) && same(c.lut16To8, b) && same(c.lut16To16Forward, c16));
+        EXPECT_TRUE(same(c.lut16To16Inverse, d) && same(c.lut8ToFloat, f) && same(c.lutFloatTo8, g));
+        EXPECT_TRUE(same(c.lut16ToFloat, h) && same(c.lutFloatTo16, i));
+        EXPECT_EQ(0, std::memcmp(s8, c.floatTo8Segments, sizeof s8));
+        EXPECT_EQ(0, std::memcmp(s16, c.floatTo16Segments, sizeof s16));
     }
 }
