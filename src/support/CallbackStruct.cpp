@@ -16,6 +16,11 @@ void vDoNothing()
 {
 }
 
+// The check's own stub for a cleared style field, apart from the constructor's defaults.
+void vStyleNothing(_TQ_RENDER_STYLE)
+{
+}
+
 // A cleared cache callback reports 0, unlike the constructor's default.
 int iCacheNothing(void*)
 {
@@ -94,8 +99,8 @@ void vCheckCallbackStruct(TQ_CallbackStruct* callbacks)
     vFillWhenNull<TQ_CacheOriginalClipCallback>(c.pfnCacheOriginalClip, iCacheNothing);
     vFillWhenNull(c.callback18, iReturnZero);
     vFillWhenNull(c.callback19, iReturnOne);
-    vFillWhenNull<TQ_GLStyleCallback>(c.pfnGLEnable, TQ_CallbackStruct::_defaultvGLEnable);
-    vFillWhenNull<TQ_GLStyleCallback>(c.pfnGLDisable, TQ_CallbackStruct::_defaultvGLDisable);
+    vFillWhenNull<TQ_GLStyleCallback>(c.pfnGLEnable, vStyleNothing);
+    vFillWhenNull<TQ_GLStyleCallback>(c.pfnGLDisable, vStyleNothing);
     for (TQ_Callback* field : {&c.callback31, &c.callback32, &c.callback39, &c.callback40, &c.callback41,
                                &c.callback42})
         vFillWhenNull(*field, vDoNothing);

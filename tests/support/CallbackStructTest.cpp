@@ -143,6 +143,9 @@ TEST(CallbackStruct, CheckFillsOnlyNullStubFields)
     vCheckCallbackStruct(&callbacks);
     EXPECT_EQ(0, callbacks.pfnCacheOriginalClip(nullptr));
     EXPECT_TRUE(callbacks.pfnGLEnable && callbacks.pfnGLDisable);
+    EXPECT_TRUE(pAddress(callbacks.pfnGLEnable) != constructorDefaults().at(28)
+                && pAddress(callbacks.pfnGLDisable) != constructorDefaults().at(29));
+    callbacks.pfnGLEnable(_TQ_RENDER_STYLE(0));
     EXPECT_TRUE(!callbacks.pfnGLLines && !callbacks.pfnObGetNumberOfProcessors);
 }
 
