@@ -46,20 +46,27 @@
 #include "prm/text/ValueText.h"
 
 // --- support
+#include "support/AutoLock.h"
 #include "support/BlendMode.h"
+#include "support/CallbackStruct.h"
 #include "support/Enumerations.h"
 #include "support/EnumerationParameters.h"
 #include "support/Exception.h"
 #include "support/GandalfFailure.h"
+#include "support/RenderSuite.h"
 #include "support/ShapeDataFormat.h"
 #include "support/Strings.h"
+#include "support/VertexInfo.h"
 #include "support/XMLErrorHandler.h"
 
 // --- clip
 #include "clip/BaseClipInfo.h"
 #include "clip/BaseClipInfoContainer.h"
+#include "clip/ClipInfo.h"
+#include "clip/ColourspaceParameters.h"
 #include "clip/FrameOffsetParameter.h"
 #include "clip/IBaseClip.h"
+#include "clip/IClip.h"
 #include "clip/LookupTableHelperMethods.h"
 
 // --- camera
