@@ -65,3 +65,5 @@
 #include "camera/FilmTypeFactory.h"
 
 // --- modules
+#include "modules/ClipBoundParameterSet.h"
+#include "modules/CopyDepartures.h"
