@@ -11,9 +11,18 @@ using Prm::NumericParameter;
 
 _TQ_PROXY_SCALE const eMapProxyScale = static_cast<_TQ_PROXY_SCALE>(3);
 
+/// The value at `time`, clamped again to the limits. The members passed here are exactly of this type, so
+/// the calls are bound statically: `getCamera` makes a dozen such reads per frame.
 float fLimitedValue(NumericParameter<float> const& parameter, float time)
 {
-    return Prm::tClamp(parameter.value(time, nullptr), parameter.minimum(), parameter.maximum());
+    using Exact = NumericParameter<float>;
+    return Prm::tClamp(parameter.Exact::value(time, nullptr), parameter.Exact::minimum(), parameter.Exact::maximum());
+}
+
+template <class P>
+bool bAnimated(P const& parameter)
+{
+    return parameter.P::isKeyframed() && parameter.P::keyframeCount() > 1;
 }
 
 bool bFieldBased(_TQ_INTERLACE_MODE mode)
@@ -114,12 +123,9 @@ TQ::Camera TQ_CameraParameterSet::getCameraDefinition(unsigned int frame) const
 
 bool TQ_CameraParameterSet::bLensAnimated() const
 {
-    for (Prm::ParameterWithoutType const* parameter : std::initializer_list<Prm::ParameterWithoutType const*>{
-             &FocalDistance, &ImageCentreX, &ImageCentreY, &DistortionActive, &RadialK1, &RadialK2, &CXX, &CXY,
-             &CYX, &CYY})
-        if (parameter->isKeyframed() && parameter->keyframeCount() > 1)
-            return true;
-    return false;
+    return bAnimated(FocalDistance) || bAnimated(ImageCentreX) || bAnimated(ImageCentreY)
+           || bAnimated(DistortionActive) || bAnimated(RadialK1) || bAnimated(RadialK2) || bAnimated(CXX)
+           || bAnimated(CXY) || bAnimated(CYX) || bAnimated(CYY);
 }
 
 Bsc::Hash TQ_CameraParameterSet::contentHash(unsigned int frame, TQ_BaseClipInfo const& clip) const
