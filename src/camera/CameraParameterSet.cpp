@@ -1,7 +1,6 @@
 #include "camera/CameraParameterSet.h"
 
 #include "clip/BaseClipInfo.h"
-#include "prm/ValueConversion.h"
 
 #include <cstring>
 
@@ -11,18 +10,19 @@ using Prm::NumericParameter;
 
 _TQ_PROXY_SCALE const eMapProxyScale = static_cast<_TQ_PROXY_SCALE>(3);
 
-/// The value at `time`, clamped again to the limits. The members passed here are exactly of this type, so
-/// the calls are bound statically: `getCamera` makes a dozen such reads per frame.
+/// The value at `time`, within the limits. The members read here are exactly of this type, whose `value`
+/// already clamps to `minimum()` and `maximum()`, so that clamp is the one the camera needs; the calls are
+/// bound statically, since `getCamera` makes a dozen such reads per frame.
 float fLimitedValue(NumericParameter<float> const& parameter, float time)
 {
-    using Exact = NumericParameter<float>;
-    return Prm::tClamp(parameter.Exact::value(time, nullptr), parameter.Exact::minimum(), parameter.Exact::maximum());
+    return parameter.NumericParameter<float>::value(time, nullptr);
 }
 
+/// Keyframed with more than one key. The count is asked first: a static lens has at most one key each.
 template <class P>
 bool bAnimated(P const& parameter)
 {
-    return parameter.P::isKeyframed() && parameter.P::keyframeCount() > 1;
+    return parameter.P::keyframeCount() > 1 && parameter.P::isKeyframed();
 }
 
 bool bFieldBased(_TQ_INTERLACE_MODE mode)
