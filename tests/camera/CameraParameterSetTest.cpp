@@ -1,6 +1,6 @@
 #include "camera/CameraParameterSet.h"
+#include "camera/Clips.h"
 #include "camera/ParameterTable.h"
-#include "clip/BaseClipInfo.h"
 #include "gandalf/Image.h"
 #include "gandalf/LineFeature.h"
 #include "prm/Fixtures.h"
@@ -21,15 +21,7 @@ using Frames = QList<unsigned int>;
 
 TQ_BaseClipInfo clip(_TQ_INTERLACE_MODE mode = TQ_INTERLACE_NONE)
 {
-    TQ_BaseClipInfo info;
-    info.FrameWidth = 2048;
-    info.FrameHeight = 1152;
-    info.eInterlaceMode = mode;
-    info.filmType.filmBackWidth = 24.0;
-    info.filmType.filmBackHeight = 13.5;
-    info.PixelAspectRatio = 1.0;
-    info.AspectRatio = 16.0 / 9.0;
-    return info;
+    return clipOf(2048, 1152, mode);
 }
 
 /// An image provider that records its calls and hands out one image per clip id.

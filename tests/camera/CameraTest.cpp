@@ -1,5 +1,5 @@
 #include "camera/Camera.h"
-#include "clip/BaseClipInfo.h"
+#include "camera/Clips.h"
 
 #include <gtest/gtest.h>
 
@@ -26,13 +26,7 @@ TQ::Camera lens(Gan_CameraType type, bool bActive)
 
 TQ_BaseClipInfo clip(_TQ_INTERLACE_MODE mode)
 {
-    TQ_BaseClipInfo info;
-    info.FrameWidth = 1920;
-    info.FrameHeight = 1080;
-    info.eInterlaceMode = mode;
-    info.filmType.filmBackWidth = 24.0;
-    info.PixelAspectRatio = 1.25;
-    return info;
+    return clipOf(1920, 1080, mode, 24.0, 1.25);
 }
 
 } // namespace
