@@ -2,6 +2,7 @@
 
 #include "clip/BaseClipInfo.h"
 
+#include <QtGlobal>
 #include <cstring>
 
 namespace {
@@ -37,6 +38,7 @@ TQ_BaseClipInfo const& defaultClip()
 }
 
 static_assert(sizeof(Gan_CameraType) == 4 && sizeof(_TQ_INTERLACE_MODE) == 4, "hashed as 4 bytes");
+static_assert(sizeof(bool) == 1, "hashed as 1 byte");
 
 /// Fixed-layout bytes of the hash: each value as its bytes in memory, in the order fed.
 class HashBytes {
@@ -44,7 +46,7 @@ public:
     template <class T>
     void vAppend(T const& value)
     {
-        static_assert(sizeof(T) <= sizeof(m_bytes), "value too wide");
+        Q_ASSERT(m_size + sizeof(T) <= sizeof(m_bytes));
         std::memcpy(m_bytes + m_size, &value, sizeof(T));
         m_size += sizeof(T);
     }
