@@ -115,6 +115,17 @@ TEST(CameraParameterSet, StaticLensBuildsOncePerClipOrOncePerField)
         EXPECT_EQ(576.0 + row.dEvenShift, set.getCamera(20, &info).y0) << "mode " << row.mode;
         EXPECT_EQ(50.0 * 2048 / 24.0, set.getCamera(99, &info).fx);
     }
+
+    // Degenerate clips give degenerate cameras, not failures; a missing clip reads as a default one.
+    TQ_CameraParameterSet set;
+    set.Type.vSetValue(GAN_XY_DISTORTION_4, 0.0f);
+    TQ_BaseClipInfo const empty;
+    for (TQ_BaseClipInfo const* info : {&empty, static_cast<TQ_BaseClipInfo const*>(nullptr)}) {
+        Gan_Camera const camera = set.getCamera(5, info);
+        EXPECT_EQ(0.0, camera.zh);
+        EXPECT_EQ(GAN_XY_DISTORTION_4, camera.type);
+    }
+    EXPECT_EQ(Frames({0}), set.cachedFrames());
 }
 
 TEST(CameraParameterSet, AnimatedLensHasOneEntryPerFrameAndRebuildsOnChange)
@@ -189,25 +200,9 @@ TEST(CameraParameterSet, ImageProviderIsAskedForTheHashAndForEachRebuild)
     set.Type.vSetValue(GAN_DISTORTION_MAP, 0.0f);
     set.directSTMapClipID.vSetValue(99, 0.0f); // a clip the provider does not know
     EXPECT_EQ(nullptr, set.getCamera(13, &info).map.direct);
-    EXPECT_EQ(nullptr, set.getCameraDefinition(13).directMap);
     set.imageProvider.clear();
-    TQ::Camera const bare = set.getCameraDefinition(13);
-    EXPECT_EQ(nullptr, bare.inverseMap);
+    EXPECT_EQ(nullptr, set.getCameraDefinition(13).inverseMap);
     EXPECT_EQ(nullptr, set.getCamera(13, &info).map.inverse);
-}
-
-TEST(CameraParameterSet, DegenerateClipsGiveCamerasNotCrashes)
-{
-    TQ_CameraParameterSet set;
-    set.Type.vSetValue(GAN_XY_DISTORTION_4, 0.0f);
-    TQ_BaseClipInfo empty; // zero size, zero film back
-    Gan_Camera const zero = set.getCamera(5, &empty);
-    EXPECT_EQ(0.0, zero.zh);
-    EXPECT_EQ(0.0, zero.x0);
-    Gan_Camera const none = set.getCamera(5, nullptr); // read as a default clip
-    EXPECT_EQ(0.0, none.zh);
-    EXPECT_EQ(GAN_XY_DISTORTION_4, none.type);
-    EXPECT_EQ(Frames({0}), set.cachedFrames());
 }
 
 TEST(CameraParameterSet, CopyHasNoProviderNorCacheAndAssignmentKeepsThem)
@@ -231,7 +226,6 @@ TEST(CameraParameterSet, CopyHasNoProviderNorCacheAndAssignmentKeepsThem)
     EXPECT_EQ(nullptr, copy.getCamera(0, &info).map.direct);
     EXPECT_EQ(35.0f, copy.FocalDistance.value(0.0f, nullptr));
     EXPECT_EQ(80.0f, copy.FocalDistance.maximum());
-    EXPECT_EQ(&copy.FocalDistance, copy.findParameter("FocalDistance"));
     TQ_LineParameters const& lines = copy.lineParameters[4];
     ASSERT_NE(nullptr, lines.lineFeatureMap);
     EXPECT_NE(map, lines.lineFeatureMap) << "deep copy";
@@ -265,16 +259,6 @@ TEST(CameraParameterSet, LineParametersAreFoundOrCreated)
     EXPECT_EQ(created, set.getLineParameters(5, false));
     EXPECT_EQ(created, set.getLineParameters(5, true));
     EXPECT_EQ(1, set.lineParameters.size());
-
-    // Self-assignment keeps the map; assigning a map-less value to a fresh entry copies nothing.
-    created->lineFeatureMap = gan_line_feature_map_alloc(4, 4);
-    Gan_LineFeatureMap* const kept = created->lineFeatureMap;
-    TQ_LineParameters& same = *created;
-    *created = same;
-    EXPECT_EQ(kept, created->lineFeatureMap);
-    TQ_LineParameters fresh;
-    fresh = TQ_LineParameters();
-    EXPECT_EQ(nullptr, fresh.lineFeatureMap);
 }
 
 TEST(CameraParameterSet, RemoveReferencesResetsMatchingClipsAndAnnouncesRealChanges)
