@@ -220,17 +220,18 @@ TEST(CameraParameterSet, CopyHasNoProviderNorCacheAndAssignmentKeepsThem)
     source.getLineParameters(4, true)->lineFeatureMap = map;
     source.getLineParameters(4, false)->reference = 9;
 
-    TQ_CameraParameterSet const copy(source);
+    TQ_CameraParameterSet copy(source);
     EXPECT_TRUE(copy.imageProvider.empty());
     EXPECT_TRUE(copy.cachedFrames().isEmpty());
     EXPECT_EQ(nullptr, copy.getCamera(0, &info).map.direct);
     EXPECT_EQ(35.0f, copy.FocalDistance.value(0.0f, nullptr));
     EXPECT_EQ(80.0f, copy.FocalDistance.maximum());
-    TQ_LineParameters const& lines = copy.lineParameters[4];
-    ASSERT_NE(nullptr, lines.lineFeatureMap);
-    EXPECT_NE(map, lines.lineFeatureMap) << "deep copy";
-    EXPECT_EQ(1u, lines.lineFeatureMap->nline);
-    EXPECT_EQ(9, lines.reference);
+    TQ_LineParameters const* lines = copy.getLineParameters(4, false);
+    ASSERT_NE(nullptr, lines);
+    ASSERT_NE(nullptr, lines->lineFeatureMap);
+    EXPECT_NE(source.getLineParameters(4, false)->lineFeatureMap, lines->lineFeatureMap) << "deep copy";
+    EXPECT_EQ(1u, lines->lineFeatureMap->nline);
+    EXPECT_EQ(9, lines->reference);
 
     TQ_CameraParameterSet assigned;
     Provider own;
