@@ -94,7 +94,7 @@ void BM_GetCameraStaticLens(benchmark::State& state, Gan_CameraType type, _TQ_IN
     state.counters["hash_ns"] = baseNs;
     state.counters["getCamera_ns"] = cameraNs;
     state.counters["ratio"] = cameraNs / baseNs;
-    state.counters["cached_cameras"] = double(set.cachedFrames().size());
+    state.counters["cached_cameras"] = double(set.cameras.keys().size());
 }
 
 /// Sizes, not times: the camera sets hold 30 and 588 parameters by value.

@@ -89,7 +89,7 @@ TEST(CameraParameterSet, ParameterTable)
         EXPECT_EQ(parameter == &set.FocalDistance, parameter->isHidden()) << parameter->qstrScriptName().toStdString();
     EXPECT_TRUE(set.imageProvider.empty());
     EXPECT_TRUE(set.lineParameters.isEmpty());
-    EXPECT_TRUE(set.cachedFrames().isEmpty());
+    EXPECT_TRUE(set.cameras.keys().isEmpty());
 }
 
 TEST(CameraParameterSet, StaticLensBuildsOncePerClipOrOncePerField)
@@ -109,7 +109,7 @@ TEST(CameraParameterSet, StaticLensBuildsOncePerClipOrOncePerField)
         TQ_BaseClipInfo const info = clip(row.mode);
         for (unsigned int frame = 0; frame < 100; ++frame)
             set.getCamera(frame, &info);
-        EXPECT_EQ(row.expected, set.cachedFrames()) << "mode " << row.mode;
+        EXPECT_EQ(row.expected, set.cameras.keys()) << "mode " << row.mode;
         // The folded frame keeps the field parity.
         EXPECT_EQ(576.0 + row.dOddShift, set.getCamera(21, &info).y0) << "mode " << row.mode;
         EXPECT_EQ(576.0 + row.dEvenShift, set.getCamera(20, &info).y0) << "mode " << row.mode;
@@ -125,7 +125,7 @@ TEST(CameraParameterSet, StaticLensBuildsOncePerClipOrOncePerField)
         EXPECT_EQ(0.0, camera.zh);
         EXPECT_EQ(GAN_XY_DISTORTION_4, camera.type);
     }
-    EXPECT_EQ(Frames({0}), set.cachedFrames());
+    EXPECT_EQ(Frames({0}), set.cameras.keys());
 }
 
 TEST(CameraParameterSet, AnimatedLensHasOneEntryPerFrameAndRebuildsOnChange)
@@ -138,13 +138,13 @@ TEST(CameraParameterSet, AnimatedLensHasOneEntryPerFrameAndRebuildsOnChange)
     EXPECT_FLOAT_EQ(0.15f, float(set.getCamera(10, &info).d[0]));
     EXPECT_FLOAT_EQ(0.2f, float(set.getCamera(20, &info).d[0]));
     set.getCamera(10, &info);
-    EXPECT_EQ(Frames({10, 20}), set.cachedFrames());
+    EXPECT_EQ(Frames({10, 20}), set.cameras.keys());
 
     // A whole clip, twice over: bounded by its length.
     for (int pass = 0; pass < 2; ++pass)
         for (unsigned int frame = 0; frame < 48; ++frame)
             set.getCamera(frame, &info);
-    EXPECT_EQ(48, set.cachedFrames().size());
+    EXPECT_EQ(48, set.cameras.keys().size());
 
     // The hash covers the lens values and the clip: a change of either is seen at once.
     set.RadialK1.vSetValue(0.5f, 40.0f);
@@ -153,7 +153,61 @@ TEST(CameraParameterSet, AnimatedLensHasOneEntryPerFrameAndRebuildsOnChange)
     EXPECT_EQ(2.0 * set.getCamera(10, &info).fx, set.getCamera(10, &info).fy);
     info.FrameWidth = 1024;
     EXPECT_EQ(512.0, set.getCamera(10, &info).zh);
-    EXPECT_EQ(48, set.cachedFrames().size());
+    EXPECT_EQ(48, set.cameras.keys().size());
+}
+
+TEST(CameraParameterSet, HashFeedsTheLensAndClipValuesInOrderAsTheirBytes)
+{
+    // The map model's image addresses follow the 89 bytes only when there is a provider to give them.
+    struct Row {
+        Gan_CameraType type;
+        bool bProvider;
+        bool bAddresses;
+    };
+    Row const rows[] = {{GAN_RADIAL_DISTORTION_2, true, false},
+                        {GAN_DISTORTION_MAP, false, false},
+                        {GAN_DISTORTION_MAP, true, true}};
+    for (Row const& row : rows) {
+        TQ_CameraParameterSet set;
+        vMapLens(set);
+        set.Type.vSetValue(row.type, 0.0f);
+        set.FocalDistance.vSetValue(35.0f, 0.0f);
+        set.FocalDistance.vSetValue(45.0f, 10.0f); // animated: frame 5 stays frame 5
+        set.ImageCentreX.vSetValue(0.25f, 0.0f);
+        set.RadialK2.vSetValue(50.0f, 0.0f);
+        set.RadialK2.vSetMaximum(20.0f); // hashed as read, within the limits
+        set.CYY.vSetValue(-3.0f, 0.0f);
+        set.DistortionActive.vSetValue(false, 0.0f);
+        Provider provider;
+        if (row.bProvider)
+            provider.vInstall(set);
+        TQ_BaseClipInfo const info = clipOf(2048, 1152, TQ_INTERLACE_FIELDS_2, 24.0, 1.5);
+        set.getCamera(5, &info);
+
+        Bsc::Hash expected;
+        auto const feed = [&expected](auto const& value) { expected.update(&value, sizeof value); };
+        feed(row.type);
+        feed(info.FrameWidth);
+        feed(info.FrameHeight);
+        feed(info.eInterlaceMode);
+        feed(info.filmType.filmBackWidth);
+        feed(info.filmType.filmBackHeight);
+        feed(info.eInterlaceMode); // twice
+        feed(info.AspectRatio);
+        feed(info.PixelAspectRatio);
+        for (float const value : {40.0f, 0.25f, 0.5f})
+            feed(value);
+        feed(false);
+        for (float const value : {0.0f, 20.0f, 0.0f, 0.0f, 0.0f, -3.0f})
+            feed(value);
+        if (row.bAddresses) {
+            feed(provider.direct.get());
+            feed(provider.inverse.get());
+        }
+        ASSERT_EQ(Frames({5}), set.cameraHashes.keys()) << row.type;
+        EXPECT_EQ(expected.digest(), set.cameraHashes.value(5).digest()) << row.type;
+        EXPECT_EQ(40.0f, set.cameras.value(5).focalDistance);
+    }
 }
 
 TEST(CameraParameterSet, ImageProviderIsAskedForTheHashAndForEachRebuild)
@@ -222,7 +276,7 @@ TEST(CameraParameterSet, CopyHasNoProviderNorCacheAndAssignmentKeepsThem)
 
     TQ_CameraParameterSet copy(source);
     EXPECT_TRUE(copy.imageProvider.empty());
-    EXPECT_TRUE(copy.cachedFrames().isEmpty());
+    EXPECT_TRUE(copy.cameras.keys().isEmpty());
     EXPECT_EQ(nullptr, copy.getCamera(0, &info).map.direct);
     EXPECT_EQ(35.0f, copy.FocalDistance.value(0.0f, nullptr));
     EXPECT_EQ(80.0f, copy.FocalDistance.maximum());
@@ -240,7 +294,7 @@ TEST(CameraParameterSet, CopyHasNoProviderNorCacheAndAssignmentKeepsThem)
     assigned.setScriptName("Lens2");
     assigned = source;
     EXPECT_EQ("Camera", assigned.qstrScriptName());
-    EXPECT_EQ(Frames({0}), assigned.cachedFrames()) << "the cache stays, and the hash keeps it right";
+    EXPECT_EQ(Frames({0}), assigned.cameras.keys()) << "the cache stays, and the hash keeps it right";
     own.uiTaken();
     EXPECT_EQ(own.direct.get(), assigned.getCamera(0, &info).map.direct);
     EXPECT_EQ(4u, own.uiTaken()) << "the map lens is new to this cache: rebuilt with this set's provider";
