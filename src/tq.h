@@ -7,6 +7,7 @@
 #include "bsc/FSPercentEscapedString.h"
 #include "bsc/Hash.h"
 #include "bsc/IsNear.h"
+#include "bsc/Licence.h"
 #include "bsc/Logger.h"
 
 // --- gandalf
@@ -71,8 +72,13 @@
 
 // --- camera
 #include "camera/CameraTypeParameter.h"
+#include "camera/Camera.h"
+#include "camera/CameraParameterSet.h"
+#include "camera/CameraType.h"
 #include "camera/FilmType.h"
 #include "camera/FilmTypeFactory.h"
+#include "camera/LineParameters.h"
+#include "camera/ParameterisedGanCamera.h"
 
 // --- modules
 #include "modules/ClipBoundParameterSet.h"

@@ -1,7 +1,7 @@
 #include "clip/ClipInfo.h"
 
 #include "clip/LookupTableHelperMethods.h"
-#include "prm/VirtualParameter.h"
+#include "prm/basic/VirtualParameter.h"
 
 #include <Imath/half.h>
 

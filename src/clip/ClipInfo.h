@@ -4,7 +4,7 @@
 #include "clip/ColourspaceParameters.h"
 #include "gandalf/Image.h"
 #include "gandalf/List.h"
-#include "prm/ParameterSet.h"
+#include "prm/set/ParameterSet.h"
 #include "support/Enumerations.h"
 
 #include <QByteArray>

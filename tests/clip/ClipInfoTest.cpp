@@ -1,5 +1,5 @@
 #include "clip/ClipInfo.h"
-#include "prm/BasicParameter.h"
+#include "prm/basic/BasicParameter.h"
 
 #include <gtest/gtest.h>
 
