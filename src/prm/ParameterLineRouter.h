@@ -21,6 +21,12 @@ public:
     /// of `field`. A line of unknown field goes to the current block and changes nothing.
     int iChoose(QString const& name, int candidateCount, TextField field);
 
+    /// The same for child sets that share a script name: each wrote one block of lines in the order of
+    /// its own text, and a line's place in that order is `position` (where the name after the set's
+    /// name stands in the child, -1 when unknown), then `field`. A line that does not come after the
+    /// previous one closes the block; a line of unknown place goes to the current block.
+    int iChooseSet(QString const& name, int candidateCount, int position, TextField field);
+
     /// Positions, among `count` parameters, of those named `name`, from a name index that is rebuilt
     /// with `nameOf(position)` (null for a parameter gone) when the count changed, when the name is not
     /// in it, or when a listed parameter no longer carries the name.
@@ -33,9 +39,13 @@ private:
 
     struct Cursor {
         int iCandidate = 0;
+        int iLastPosition = -1;
         TextField eLast = TextField::Unknown;
     };
+    static int iAdvance(Cursor& cursor, int candidateCount, int position, TextField field);
+
     QHash<QString, Cursor> cursors;
+    QHash<QString, Cursor> setCursors;
     QHash<QString, QVector<int>> nameIndex;
     int iIndexedCount = -1;
 };

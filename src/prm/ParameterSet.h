@@ -62,6 +62,14 @@ protected:
     bool bBasicParametersOwned;
 
 private:
+    /// Hands a line to the child set `name`; among children that share the name, to the one whose block
+    /// the line continues.
+    bool bStreamInChild(QString const& name, QString const& rest);
+    /// Where a parameter, basic parameter or child named `name` stands in this set's text, -1 for none.
+    int iTextPosition(QString const& name);
+    /// Positions among the added parameters of those named `name`.
+    QVector<int> positionsNamed(QString const& name);
+
     QString displayName;
     QString scriptName;
     QVector<QPointer<ParameterWithoutType>> parameters;
