@@ -7,6 +7,7 @@
 #include "bsc/FSPercentEscapedString.h"
 #include "bsc/Hash.h"
 #include "bsc/IsNear.h"
+#include "bsc/Licence.h"
 #include "bsc/Logger.h"
 
 // --- gandalf
@@ -61,7 +62,14 @@
 #include "clip/LookupTableHelperMethods.h"
 
 // --- camera
+#include "camera/Camera.h"
+#include "camera/CameraParameterSet.h"
+#include "camera/CameraType.h"
 #include "camera/FilmType.h"
 #include "camera/FilmTypeFactory.h"
+#include "camera/LineParameters.h"
+#include "camera/ParameterisedGanCamera.h"
 
 // --- modules
+#include "modules/ClipBoundParameterSet.h"
+#include "modules/CopyDepartures.h"
