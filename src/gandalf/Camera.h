@@ -33,10 +33,11 @@
 ///   pd = (fx xd, fy yd), pd = pu + D(pu). D is the uniform cubic B-spline whose control points are the
 ///   17 x 17 `weights` (pixels; `weight[i][j].x` and `.y`, row i along y, column j along x), placed at
 ///   offsets (-zh + j zh / 8, -zh + i zh / 8): the grid spans [-zh, zh] in both directions, which with
-///   zh = half the frame width covers the frame. Past the border the outer control points repeat.
-///   Domain: pu inside [-zh, zh] x [-zh, zh] (needs zh > 0). Back-projection by Newton's method.
-/// - 13, its inverse: the same field applied to the distorted offset, pu = pd + D(pd). Domain: pd in the
-///   grid. Projection by Newton's method.
+///   zh = half the frame width covers the frame. Near the border the outer control points repeat, and
+///   past the grid D keeps its value at the border, so every point is in the domain (needs zh > 0).
+///   Back-projection by Newton's method; it fails where the field folds the plane over.
+/// - 13, its inverse: the same field applied to the distorted offset, pu = pd + D(pd). Projection by
+///   Newton's method.
 /// - 15, distortion map images: `map.direct` gives, at each pixel of the undistorted frame, the distorted
 ///   pixel (channel 0 x, channel 1 y, in pixels, absolute); `map.inverse` gives the undistorted pixel at
 ///   each pixel of the distorted frame. Both are `GAN_VECTOR_FIELD_2D` images of `GAN_FLOAT`, read
@@ -51,7 +52,8 @@
 /// length or a zero image-plane coordinate, a null or malformed image or weight table, a point outside the
 /// model's domain, or an inverse that does not converge. An inverse by Newton's method succeeds only
 /// when its result is within 1e-9 pixel of the exact one (and its image within 1e-9 pixel of the input);
-/// the iteration count is capped. The functions never write to the error trace (they run per point),
+/// the iteration count is capped. A weight of the grid that is not finite fails the points that read
+/// it; `gan_camera_internalize` checks them all. The functions never write to the error trace (they run per point),
 /// allocate nothing and read nothing outside the images or the weight table. They are thread-safe.
 #include "gandalf/BSpline.h"
 #include "gandalf/CameraType.h"
