@@ -5,6 +5,7 @@
 #include <QString>
 #include <QTextStream>
 
+#include <algorithm>
 #include <climits>
 #include <cmath>
 #include <limits>
@@ -83,7 +84,124 @@ bool bSameGrid(Gan_CubicBSplineWeights const* a, Gan_CubicBSplineWeights const* 
     return true;
 }
 
+// Real lens cameras on a 640 x 480 frame.
+struct Lens {
+    Gan_CameraType type;
+    double d[4];
+    char const* name;
+};
+
+Lens const lenses[] = {{GAN_LINEAR_CAMERA, {}, "linear"},
+                       {GAN_RADIAL_DISTORTION_1, {-0.05}, "radial 1"},
+                       {GAN_RADIAL_DISTORTION_2, {-0.05, 0.01}, "radial 2"},
+                       {GAN_RADIAL_DISTORTION_3, {-0.05, 0.01, 0.001}, "radial 3"},
+                       {GAN_RADIAL_DISTORTION_1_INV, {0.03}, "inverse radial 1"},
+                       {GAN_RADIAL_DISTORTION_2_INV, {0.03, 0.002}, "inverse radial 2"},
+                       {GAN_STEREOGRAPHIC_CAMERA, {}, "stereographic"},
+                       {GAN_EQUIDISTANT_CAMERA, {}, "equidistant"},
+                       {GAN_SINE_LAW_CAMERA, {}, "sine law"},
+                       {GAN_EQUI_SOLID_ANGLE_CAMERA, {}, "equi-solid-angle"},
+                       {GAN_XY_DISTORTION_4, {0.01, 0.02, 0.015, 0.005}, "anamorphic"},
+                       {GAN_CUBIC_BSPLINE_CAMERA, {}, "B-spline"},
+                       {GAN_CUBIC_BSPLINE_CAMERA_INV, {}, "inverse B-spline"},
+                       {GAN_DISTORTION_MAP, {}, "distortion map"}};
+
+// Distortion maps that move a pixel right by one and back.
+struct ShiftMaps {
+    ShiftMaps()
+    {
+        for (unsigned long row = 0; row < 480; ++row)
+            for (unsigned long col = 0; col < 640; ++col) {
+                auto* forward = static_cast<float*>(gan_image_get_pixptr(maps.direct, row, col));
+                auto* backward = static_cast<float*>(gan_image_get_pixptr(maps.inverse, row, col));
+                forward[0] = float(col + 1.5);
+                backward[0] = float(col - 0.5);
+                forward[1] = backward[1] = float(row + 0.5);
+            }
+    }
+    ~ShiftMaps()
+    {
+        gan_image_free(maps.direct);
+        gan_image_free(maps.inverse);
+    }
+    Gan_CameraMaps maps{gan_image_alloc(GAN_VECTOR_FIELD_2D, GAN_FLOAT, 480, 640),
+                        gan_image_alloc(GAN_VECTOR_FIELD_2D, GAN_FLOAT, 480, 640)};
+};
+
+Gan_Camera lensCamera(Lens const& lens, Gan_CubicBSplineWeights* grid, ShiftMaps const& shift)
+{
+    Gan_Camera c{};
+    c.type = lens.type;
+    c.fx = 800;
+    c.fy = 780;
+    c.x0 = 320;
+    c.y0 = 240;
+    c.zh = 320;
+    std::copy(lens.d, lens.d + 4, c.d);
+    if (lens.type == GAN_DISTORTION_MAP)
+        c.map = shift.maps;
+    c.weights = grid;
+    EXPECT_TRUE(gan_camera_internalize(&c)) << lens.name;
+    return c;
+}
+
 } // namespace
+
+TEST(FrameWarp, WarpThenUnwarpReturnsPointsForEveryLensOnEitherSide)
+{
+    ShiftMaps const shift;
+    Gan_CubicBSplineWeights grid{};
+    for (int i = 0; i < GAN_CUBIC_BSPLINE_GRID_SIZE; ++i)
+        for (int j = 0; j < GAN_CUBIC_BSPLINE_GRID_SIZE; ++j)
+            grid.weight[i][j] = Gan_Vector2{0.5 * std::sin(i * 0.7), 0.5 * std::cos(j * 0.4)};
+    Gan_Matrix33 const h{1.02, 0.01, 0.01, -0.01, 0.98, -0.005, 0.01, -0.02, 1};
+    Gan_Camera const linear = lensCamera(lenses[0], nullptr, shift);
+    for (Lens const& lens : lenses) {
+        Gan_Camera const c = lensCamera(lens, &grid, shift);
+        Gan_Camera const sides[][2] = {{c, linear}, {linear, c}, {c, c}};
+        for (auto const& side : sides) {
+            TQ::FrameWarp warp;
+            vSet(warp, side[0], h, side[1]);
+            for (double x = 180; x <= 460; x += 70)
+                for (double y = 130; y <= 350; y += 55) {
+                    double wx = x, wy = y;
+                    warp.vWarpPoint(wx, wy);
+                    EXPECT_GT(std::hypot(wx - x, wy - y), 0.1) << lens.name << " did not map " << x << ", " << y;
+                    warp.vUnwarpPoint(wx, wy);
+                    EXPECT_NEAR(wx, x, 1e-6) << lens.name << " at " << x << ", " << y;
+                    EXPECT_NEAR(wy, y, 1e-6) << lens.name << " at " << x << ", " << y;
+                }
+        }
+    }
+}
+
+TEST(FrameWarp, PointsALensRefusesStayOrComeBack)
+{
+    ShiftMaps const shift;
+    Gan_Camera const sine = lensCamera(lenses[8], nullptr, shift);
+    Gan_Camera const linear = lensCamera(lenses[0], nullptr, shift);
+    TQ::FrameWarp warp;
+    vSet(warp, sine, translation, sine);
+    // Beyond the sine law's reach (a distorted radius of 1, 800 pixels out) and not finite.
+    for (Gan_Vector3 const& p : {Gan_Vector3{320 + 900, 240, 320}, Gan_Vector3{dNaN, 240, 320},
+                                 Gan_Vector3{1, 2, 0}}) {
+        Gan_Vector3 q = p;
+        warp.vWarpPoint(q);
+        EXPECT_TRUE(q.x == p.x || (std::isnan(q.x) && std::isnan(p.x)));
+        EXPECT_TRUE(q.y == p.y && q.z == p.z);
+        q = p;
+        warp.vUnwarpPoint(q);
+        EXPECT_TRUE(q.x == p.x || (std::isnan(q.x) && std::isnan(p.x)));
+        EXPECT_TRUE(q.y == p.y && q.z == p.z);
+    }
+    // A projection that fails after the product gives the input back: radial 1 with K1 = -0.05 folds over
+    // beyond a radius of 2.58.
+    TQ::FrameWarp far;
+    vSet(far, linear, Gan_Matrix33{10, 0, 0, 0, 10, 0, 0, 0, 1}, lensCamera(lenses[1], nullptr, shift));
+    Gan_Vector3 p{320 + 300, 240, 320};
+    far.vWarpPoint(p);
+    expectPoint(p, 620, 240, 320, "refused by the projection");
+}
 
 TEST(FrameWarp, FreshWarpIsAllZero)
 {
