@@ -5,7 +5,7 @@
 
 #include <QTextStream>
 
-#include <utility>
+#include <memory>
 
 namespace TQ {
 
@@ -58,6 +58,16 @@ void vSettleCamera(bool& bUse, Gan_Camera& stored, Gan_Camera const& given, Gan_
                          &owned->weight[0][0].x, 1);
 }
 
+// Maps (x, y) on the image plane at `z` through `map`, in double precision.
+template <class T, class Map>
+void vMapPair(T& x, T& y, double z, Map map)
+{
+    Gan_Vector3 p{x, y, z};
+    map(p);
+    x = static_cast<T>(p.x);
+    y = static_cast<T>(p.y);
+}
+
 Gan_CubicBSplineWeights* ptDuplicate(Gan_CubicBSplineWeights const* weights)
 {
     return weights ? new Gan_CubicBSplineWeights(*weights) : nullptr;
@@ -72,17 +82,40 @@ FrameWarp::FrameWarp()
 {
 }
 
-FrameWarp::FrameWarp(FrameWarp const& other)
-    : uiClipID(other.uiClipID), uiAttribute1(other.uiAttribute1), uiAttribute2(other.uiAttribute2),
-      iLayerID(other.iLayerID), bUseBackprojectionCamera(other.bUseBackprojectionCamera),
-      tBackprojectionCamera(other.tBackprojectionCamera), tHomography(other.tHomography),
-      tInverseHomography(other.tInverseHomography), bUseProjectionCamera(other.bUseProjectionCamera),
-      tProjectionCamera(other.tProjectionCamera), tHomographyAsGiven(other.tHomographyAsGiven),
-      ptProjectionWeights(ptDuplicate(other.ptProjectionWeights)),
-      ptBackprojectionWeights(other.ptBackprojectionWeights == other.ptProjectionWeights
-                                  ? ptProjectionWeights
-                                  : ptDuplicate(other.ptBackprojectionWeights))
+FrameWarp::FrameWarp(FrameWarp const& other) : FrameWarp()
 {
+    vCopyFrom(other);
+}
+
+FrameWarp& FrameWarp::operator=(FrameWarp const& other)
+{
+    if (this != &other)
+        vCopyFrom(other);
+    return *this;
+}
+
+void FrameWarp::vCopyFrom(FrameWarp const& other)
+{
+    // The new buffers exist before anything changes, so a failed allocation leaves this warp as it was.
+    bool const bShared = other.ptBackprojectionWeights == other.ptProjectionWeights;
+    std::unique_ptr<Gan_CubicBSplineWeights> projection(ptDuplicate(other.ptProjectionWeights));
+    std::unique_ptr<Gan_CubicBSplineWeights> backprojection(bShared ? nullptr
+                                                                    : ptDuplicate(other.ptBackprojectionWeights));
+    vFreeWeights();
+    uiClipID = other.uiClipID;
+    uiAttribute1 = other.uiAttribute1;
+    uiAttribute2 = other.uiAttribute2;
+    iLayerID = other.iLayerID;
+    bUseBackprojectionCamera = other.bUseBackprojectionCamera;
+    tBackprojectionCamera = other.tBackprojectionCamera;
+    tHomography = other.tHomography;
+    tInverseHomography = other.tInverseHomography;
+    bUseProjectionCamera = other.bUseProjectionCamera;
+    tProjectionCamera = other.tProjectionCamera;
+    tHomographyAsGiven = other.tHomographyAsGiven;
+    ptProjectionWeights = projection.release();
+    ptBackprojectionWeights = bShared ? ptProjectionWeights : backprojection.release();
+    // A camera that used a buffer of the other warp uses this warp's copy of it.
     for (Gan_Camera* camera : {&tBackprojectionCamera, &tProjectionCamera}) {
         if (!camera->weights)
             continue;
@@ -91,27 +124,6 @@ FrameWarp::FrameWarp(FrameWarp const& other)
         else if (camera->weights == other.ptBackprojectionWeights)
             camera->weights = ptBackprojectionWeights;
     }
-}
-
-FrameWarp& FrameWarp::operator=(FrameWarp const& other)
-{
-    if (this == &other)
-        return *this;
-    FrameWarp copy(other);
-    std::swap(uiClipID, copy.uiClipID);
-    std::swap(uiAttribute1, copy.uiAttribute1);
-    std::swap(uiAttribute2, copy.uiAttribute2);
-    std::swap(iLayerID, copy.iLayerID);
-    std::swap(bUseBackprojectionCamera, copy.bUseBackprojectionCamera);
-    std::swap(tBackprojectionCamera, copy.tBackprojectionCamera);
-    std::swap(tHomography, copy.tHomography);
-    std::swap(tInverseHomography, copy.tInverseHomography);
-    std::swap(bUseProjectionCamera, copy.bUseProjectionCamera);
-    std::swap(tProjectionCamera, copy.tProjectionCamera);
-    std::swap(tHomographyAsGiven, copy.tHomographyAsGiven);
-    std::swap(ptProjectionWeights, copy.ptProjectionWeights);
-    std::swap(ptBackprojectionWeights, copy.ptBackprojectionWeights);
-    return *this;
 }
 
 FrameWarp::~FrameWarp()
@@ -182,18 +194,12 @@ void FrameWarp::vWarpPoint(Gan_Vector2& p) const
 
 void FrameWarp::vWarpPoint(double& x, double& y) const
 {
-    Gan_Vector3 p{x, y, tBackprojectionCamera.zh};
-    vWarpPoint(p);
-    x = p.x;
-    y = p.y;
+    vMapPair(x, y, tBackprojectionCamera.zh, [this](Gan_Vector3& p) { vWarpPoint(p); });
 }
 
 void FrameWarp::vWarpPoint(float& x, float& y) const
 {
-    Gan_Vector3 p{x, y, tBackprojectionCamera.zh};
-    vWarpPoint(p);
-    x = static_cast<float>(p.x);
-    y = static_cast<float>(p.y);
+    vMapPair(x, y, tBackprojectionCamera.zh, [this](Gan_Vector3& p) { vWarpPoint(p); });
 }
 
 void FrameWarp::vWarpPoint(float* p) const
@@ -216,18 +222,12 @@ void FrameWarp::vUnwarpPoint(Gan_Vector3& p) const
 
 void FrameWarp::vUnwarpPoint(double& x, double& y) const
 {
-    Gan_Vector3 p{x, y, tProjectionCamera.zh};
-    vUnwarpPoint(p);
-    x = p.x;
-    y = p.y;
+    vMapPair(x, y, tProjectionCamera.zh, [this](Gan_Vector3& p) { vUnwarpPoint(p); });
 }
 
 void FrameWarp::vUnwarpPoint(float& x, float& y) const
 {
-    Gan_Vector3 p{x, y, tProjectionCamera.zh};
-    vUnwarpPoint(p);
-    x = static_cast<float>(p.x);
-    y = static_cast<float>(p.y);
+    vMapPair(x, y, tProjectionCamera.zh, [this](Gan_Vector3& p) { vUnwarpPoint(p); });
 }
 
 QPointF FrameWarp::getPointWarped(QPointF const& pt) const

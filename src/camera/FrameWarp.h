@@ -98,7 +98,10 @@ public:
     Gan_CubicBSplineWeights* ptBackprojectionWeights;
 
 private:
+    /// Deletes both buffers (one buffer in both fields once) and nulls the fields.
     void vFreeWeights();
+    /// Makes this warp a deep copy of `other`, which is not this warp.
+    void vCopyFrom(FrameWarp const& other);
 };
 
 } // namespace TQ

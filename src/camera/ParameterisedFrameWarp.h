@@ -36,8 +36,10 @@ public:
     /// Writes the values at `time` straight into the fields of `warp`: layer (4294967295 as -1), clip,
     /// flags as stored, cameras and `tHomography`. Nothing else is touched: the inverse, the matrix as
     /// given, the attributes and the weights pointers keep what they held, and the flags are not forced
-    /// on. To unwarp, or to map through cameras that were never made ready, pass the values on to
-    /// `vSetAttributes`.
+    /// on. A camera on the weight grid gets the grid only when it already points at a table. The
+    /// cameras' point functions stay as they were: call `gan_camera_internalize` on a camera whose model
+    /// changed or that was never made ready (until then it fails every point), and pass the values on to
+    /// `vSetAttributes` to bring the inverse up to date before unwarping.
     void populateFrameWarp(FrameWarp& warp, float time) const;
     /// Deletes every key of the layer, the clip, the flags and the homography; the static values, the
     /// cameras and "Type" stay.
