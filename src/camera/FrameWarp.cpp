@@ -238,17 +238,17 @@ QPointF FrameWarp::getPointWarped(QPointF const& pt) const
     return QPointF(Prm::tFromDouble<int>(static_cast<float>(p.x)), Prm::tFromDouble<int>(static_cast<float>(p.y)));
 }
 
-} // namespace TQ
-
-QTextStream& operator<<(QTextStream& stream, TQ::FrameWarp::_Type const& value)
+QTextStream& operator<<(QTextStream& stream, FrameWarp::_Type const& value)
 {
     return stream << static_cast<int>(value);
 }
 
-QTextStream& operator>>(QTextStream& stream, TQ::FrameWarp::_Type& value)
+QTextStream& operator>>(QTextStream& stream, FrameWarp::_Type& value)
 {
     unsigned int uiRead = 0;
     stream >> uiRead;
-    value = static_cast<TQ::FrameWarp::_Type>(static_cast<int>(uiRead));
+    value = static_cast<FrameWarp::_Type>(static_cast<int>(uiRead));
     return stream;
 }
+
+} // namespace TQ

@@ -104,9 +104,10 @@ private:
     void vCopyFrom(FrameWarp const& other);
 };
 
-} // namespace TQ
-
+// Beside the type, so that argument-dependent lookup finds them from the parameter templates.
 /// Writes the value as a decimal int.
-QTextStream& operator<<(QTextStream& stream, TQ::FrameWarp::_Type const& value);
-/// Reads a decimal unsigned int and keeps it as it stands.
-QTextStream& operator>>(QTextStream& stream, TQ::FrameWarp::_Type& value);
+QTextStream& operator<<(QTextStream& stream, FrameWarp::_Type const& value);
+/// Reads a decimal unsigned int and keeps it as it stands, whether or not it names anything.
+QTextStream& operator>>(QTextStream& stream, FrameWarp::_Type& value);
+
+} // namespace TQ
