@@ -5,8 +5,8 @@
 /// Coordinates and units
 /// - A 3-D point (X, Y, Z), Z != 0, has the undistorted normalised coordinates xu = X / Z, yu = Y / Z
 ///   (no unit). Only these ratios are used: a point behind the camera projects like its mirror image.
-/// - A lens model turns (xu, yu) into distorted normalised coordinates (xd, yd). With r^2 = xu^2 + yu^2
-///   and rd the distorted radius.
+/// - A lens model turns (xu, yu) into distorted normalised coordinates (xd, yd). r^2 = xu^2 + yu^2 is
+///   the undistorted radius squared, rd^2 = xd^2 + yd^2 the distorted one.
 /// - Pixels: u = fx xd + x0, v = fy yd + y0. Pixel (col, row) covers [col, col + 1) x [row, row + 1), so
 ///   its centre is (col + 0.5, row + 0.5). fx and fy are focal lengths in pixels, x0 and y0 the centre.
 /// - Homogeneous image points: projection gives (u, v, zh); an image point (x, y, z), z != 0, is the
@@ -35,7 +35,8 @@
 ///   offsets (-zh + j zh / 8, -zh + i zh / 8): the grid spans [-zh, zh] in both directions, which with
 ///   zh = half the frame width covers the frame. Near the border the outer control points repeat, and
 ///   past the grid D keeps its value at the border, so every point is in the domain (needs zh > 0).
-///   Back-projection by Newton's method; it fails where the field folds the plane over.
+///   Back-projection by Newton's method. Keep the field's slope below 1 (neighbouring weights differ by
+///   less than zh / 8): where it folds the plane over, a point has several inverses or none.
 /// - 13, its inverse: the same field applied to the distorted offset, pu = pd + D(pd). Projection by
 ///   Newton's method.
 /// - 15, distortion map images: `map.direct` gives, at each pixel of the undistorted frame, the distorted
@@ -53,8 +54,9 @@
 /// model's domain, or an inverse that does not converge. An inverse by Newton's method succeeds only
 /// when its result is within 1e-9 pixel of the exact one (and its image within 1e-9 pixel of the input);
 /// the iteration count is capped. A weight of the grid that is not finite fails the points that read
-/// it; `gan_camera_internalize` checks them all. The functions never write to the error trace (they run per point),
-/// allocate nothing and read nothing outside the images or the weight table. They are thread-safe.
+/// it; `gan_camera_internalize` checks them all. The functions never write to the error trace (they
+/// run per point), allocate nothing and read nothing outside the images or the weight table. They
+/// are thread-safe.
 #include "gandalf/BSpline.h"
 #include "gandalf/CameraType.h"
 #include "gandalf/Common.h"

@@ -316,7 +316,7 @@ TEST(Camera, BadInputFailsWithoutTouchingTheOutput)
         bool bProjectFails = true, bBackprojectFails = true;  // each map serves one direction only
     };
     double const inf = std::numeric_limits<double>::infinity();
-    auto const keep = [](Gan_Camera&) {};
+    std::nullptr_t const keep = nullptr;  // a sound camera with a bad point
     std::vector<Case> const cases{
         {"NaN coefficient", radial2, [](Gan_Camera& c) { c.d[1] = kNaN; }, {1, 1, 10}},
         {"infinite coefficient", radial2, [inf](Gan_Camera& c) { c.d[0] = inf; }, {1, 1, 10}},
@@ -340,17 +340,16 @@ TEST(Camera, BadInputFailsWithoutTouchingTheOutput)
     };
     for (Case const& c : cases) {
         SCOPED_TRACE(c.name);
-        Lens lens = c.lens;
+        Lens lens = c.lens;  // with its own weights and images, which the case may spoil
         lens.weights = lens.weights ? std::make_shared<Gan_CubicBSplineWeights>(*lens.weights) : nullptr;
         if (lens.direct) {
             lens.direct = scaleMap(8, 8, 1);
             lens.inverse = scaleMap(8, 8, 1);
         }
         Gan_Camera camera = cameraOf(lens);
-        c.spoil(camera);
-        bool const bCameraSpoiled = c.point.z != 0 && std::isfinite(c.point.x) && std::isfinite(c.point.y) &&
-                                    c.point.x != 1e300;
-        EXPECT_EQ(gan_camera_internalize(&camera), bCameraSpoiled ? GAN_FALSE : GAN_TRUE);
+        if (c.spoil)
+            c.spoil(camera);
+        EXPECT_EQ(gan_camera_internalize(&camera), c.spoil ? GAN_FALSE : GAN_TRUE);
         ASSERT_NE(camera.point_project, nullptr);
         ASSERT_NE(camera.point_backproject, nullptr);
         Gan_Vector3 out{7, 8, 9};
@@ -376,8 +375,8 @@ TEST(Camera, BadInputFailsWithoutTouchingTheOutput)
 TEST(Camera, SlotsShareTheirPlaceWithTheMapsAndTheSavedNames)
 {
     Gan_Camera camera{};
-    Gan_Image* const image = reinterpret_cast<Gan_Image*>(&camera);
-    camera.map.direct = image;
+    Gan_Image image{};
+    camera.map.direct = &image;
     camera.map.inverse = nullptr;
     EXPECT_EQ(static_cast<void*>(&camera.map.direct), static_cast<void*>(&camera.d[0]));
     EXPECT_EQ(static_cast<void*>(&camera.map.inverse), static_cast<void*>(&camera.d[1]));
