@@ -1,8 +1,8 @@
 #include "camera/CameraParameterSet.h"
 
 #include "clip/BaseClipInfo.h"
-#include "prm/ValueConversion.h"
 
+#include <QtGlobal>
 #include <cstring>
 
 namespace {
@@ -11,9 +11,19 @@ using Prm::NumericParameter;
 
 _TQ_PROXY_SCALE const eMapProxyScale = static_cast<_TQ_PROXY_SCALE>(3);
 
+/// The value at `time`, within the limits. The members read here are exactly of this type, whose `value`
+/// already clamps to `minimum()` and `maximum()`, so that clamp is the one the camera needs; the calls are
+/// bound statically, since `getCamera` makes a dozen such reads per frame.
 float fLimitedValue(NumericParameter<float> const& parameter, float time)
 {
-    return Prm::tClamp(parameter.value(time, nullptr), parameter.minimum(), parameter.maximum());
+    return parameter.NumericParameter<float>::value(time, nullptr);
+}
+
+/// Keyframed with more than one key. The count is asked first: a static lens has at most one key each.
+template <class P>
+bool bAnimated(P const& parameter)
+{
+    return parameter.P::keyframeCount() > 1 && parameter.P::isKeyframed();
 }
 
 bool bFieldBased(_TQ_INTERLACE_MODE mode)
@@ -28,6 +38,7 @@ TQ_BaseClipInfo const& defaultClip()
 }
 
 static_assert(sizeof(Gan_CameraType) == 4 && sizeof(_TQ_INTERLACE_MODE) == 4, "hashed as 4 bytes");
+static_assert(sizeof(bool) == 1, "hashed as 1 byte");
 
 /// Fixed-layout bytes of the hash: each value as its bytes in memory, in the order fed.
 class HashBytes {
@@ -35,7 +46,7 @@ public:
     template <class T>
     void vAppend(T const& value)
     {
-        static_assert(sizeof(T) <= sizeof(m_bytes), "value too wide");
+        Q_ASSERT(m_size + sizeof(T) <= sizeof(m_bytes));
         std::memcpy(m_bytes + m_size, &value, sizeof(T));
         m_size += sizeof(T);
     }
@@ -114,12 +125,9 @@ TQ::Camera TQ_CameraParameterSet::getCameraDefinition(unsigned int frame) const
 
 bool TQ_CameraParameterSet::bLensAnimated() const
 {
-    for (Prm::ParameterWithoutType const* parameter : std::initializer_list<Prm::ParameterWithoutType const*>{
-             &FocalDistance, &ImageCentreX, &ImageCentreY, &DistortionActive, &RadialK1, &RadialK2, &CXX, &CXY,
-             &CYX, &CYY})
-        if (parameter->isKeyframed() && parameter->keyframeCount() > 1)
-            return true;
-    return false;
+    return bAnimated(FocalDistance) || bAnimated(ImageCentreX) || bAnimated(ImageCentreY)
+           || bAnimated(DistortionActive) || bAnimated(RadialK1) || bAnimated(RadialK2) || bAnimated(CXX)
+           || bAnimated(CXY) || bAnimated(CYX) || bAnimated(CYY);
 }
 
 Bsc::Hash TQ_CameraParameterSet::contentHash(unsigned int frame, TQ_BaseClipInfo const& clip) const

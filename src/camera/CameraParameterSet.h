@@ -7,7 +7,6 @@
 #include "prm/Parameter.h"
 #include "support/Enumerations.h"
 
-#include <QList>
 #include <QMap>
 #include <boost/function.hpp>
 #include <boost/shared_ptr.hpp>
@@ -132,13 +131,12 @@ public:
     TQ_LineParameters* getLineParameters(unsigned int key, bool create);
     /// Resets each of the six clip references that names `clipId` (every one for 0) to its default.
     void removeReferencesToClip(unsigned int clipId) override;
-    /// The frames that hold a cached camera, ascending.
-    QList<unsigned int> cachedFrames() const { return cameras.keys(); }
 
     /// Set by the application; empty by default.
     ImageProvider imageProvider;
-
-protected:
+    /// The caches of `getCamera`, by folded frame: the content hash each camera was built for, and the
+    /// camera. Open to the application for inspection; entries written here are checked against the
+    /// hash like any other.
     mutable QMap<unsigned int, Bsc::Hash> cameraHashes;
     mutable QMap<unsigned int, TQ::Camera> cameras;
 

@@ -7,8 +7,8 @@ struct Gan_LineFeatureMap;
 ///
 /// Owns the map: frees it when destroyed; copying deep-copies it (a copy that runs out of memory holds
 /// no map). Assigning from another object replaces the pointer with a deep copy of the source's map (or
-/// null) without freeing the old one, so assign only to an object that holds no map, as the camera set does with fresh entries;
-/// otherwise the old map leaks. Self-assignment does nothing.
+/// null) without freeing the old one, so assign only to an object that holds no map, as the camera set
+/// does with fresh entries; otherwise the old map leaks. Self-assignment does nothing.
 class TQ_LineParameters
 {
 public:
