@@ -77,7 +77,9 @@
 #include "camera/CameraType.h"
 #include "camera/FilmType.h"
 #include "camera/FilmTypeFactory.h"
+#include "camera/FrameWarp.h"
 #include "camera/LineParameters.h"
+#include "camera/ParameterisedFrameWarp.h"
 #include "camera/ParameterisedGanCamera.h"
 
 // --- modules

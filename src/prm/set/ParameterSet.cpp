@@ -5,6 +5,8 @@
 
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace Prm {
 
 namespace {
@@ -97,8 +99,28 @@ bool ParameterSet::bStreamIn(QString const& line)
                                       : bStreamInBasic(basicParameters, name, chosen - positions.size(), rest))
             return true;
     }
+    return bStreamInChild(name, rest);
+}
+
+bool ParameterSet::bStreamInChild(QString const& name, QString const& rest)
+{
+    auto const bNamed = [&name](ParameterSet const* child) { return child && child->scriptName == name; };
+    ParameterSet* chosen = nullptr;
+    int const count = static_cast<int>(std::count_if(childSets.cbegin(), childSets.cend(), bNamed));
+    if (count > 1) {
+        // Children that share a name (the two cameras of a warp) each get back the block they wrote.
+        auto named = std::find_if(childSets.cbegin(), childSets.cend(), bNamed);
+        int const dot = rest.indexOf(QLatin1Char('.'));
+        TextField const field = dot > 0 ? eTextField(rest.mid(dot + 1)) : TextField::Unknown;
+        for (int skip = lineRouter.iChooseSet(name, count, (*named)->iTextPosition(rest.left(dot)), field); skip > 0;
+             --skip)
+            named = std::find_if(named + 1, childSets.cend(), bNamed);
+        chosen = *named;
+        if (chosen->bStreamIn(rest))
+            return true;
+    }
     for (ParameterSet* child : childSets) {
-        if (child && child->scriptName == name && child->bStreamIn(rest))
+        if (child != chosen && bNamed(child) && child->bStreamIn(rest))
             return true;
     }
     return false;
@@ -131,6 +153,25 @@ QVector<int> ParameterSet::positionsOf(QString const& name)
     }
     iIndexedCount = count;
     return nameIndex.value(name);
+}
+
+int ParameterSet::iTextPosition(QString const& name)
+{
+    QVector<int> const positions = positionsOf(name);
+    if (!positions.isEmpty())
+        return positions.first();
+    int position = parameters.size();
+    for (BasicParameter const* parameter : basicParameters) {
+        if (parameter && parameter->scriptName() == name)
+            return position;
+        ++position;
+    }
+    for (ParameterSet const* child : childSets) {
+        if (child && child->scriptName == name)
+            return position;
+        ++position;
+    }
+    return -1;
 }
 
 void ParameterSet::assignName(QString const& name)

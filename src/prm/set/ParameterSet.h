@@ -63,6 +63,12 @@ protected:
     bool bBasicParametersOwned;
 
 private:
+    /// Hands a line to the child set `name`; among children that share the name, to the one whose block
+    /// the line continues.
+    bool bStreamInChild(QString const& name, QString const& rest);
+    /// Where a parameter, basic parameter or child named `name` stands in this set's text, -1 for none.
+    int iTextPosition(QString const& name);
+
     QString displayName;
     QString scriptName;
     QVector<QPointer<ParameterWithoutType>> parameters;

@@ -20,12 +20,22 @@ public:
     /// of `field`. A line of unknown field goes to the current block and changes nothing.
     int iChoose(QString const& name, int candidateCount, TextField field);
 
+    /// The same for child sets that share a script name: each wrote one block of lines in the order of
+    /// its own text, and a line's place in that order is `position` (where the name after the set's
+    /// name stands in the child, -1 when unknown), then `field`. A line that does not come after the
+    /// previous one closes the block; a line of unknown place goes to the current block.
+    int iChooseSet(QString const& name, int candidateCount, int position, TextField field);
+
 private:
     struct Cursor {
         int iCandidate = 0;
+        int iLastPosition = -1;
         TextField eLast = TextField::Unknown;
     };
+    static int iAdvance(Cursor& cursor, int candidateCount, int position, TextField field);
+
     QHash<QString, Cursor> cursors;
+    QHash<QString, Cursor> setCursors;
 };
 
 } // namespace Prm
