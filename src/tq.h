@@ -65,3 +65,7 @@
 #include "camera/FilmTypeFactory.h"
 
 // --- modules
+#include "modules/Camera3DParameterSet.h"
+#include "modules/Layer3DParameterSet.h"
+#include "modules/NullObject3DParameterSet.h"
+#include "modules/XYZParameterSet.h"
