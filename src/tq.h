@@ -66,6 +66,8 @@
 
 // --- modules
 #include "modules/Camera3DParameterSet.h"
+#include "modules/ClipBoundParameterSet.h"
+#include "modules/CopyDepartures.h"
 #include "modules/Layer3DParameterSet.h"
 #include "modules/NullObject3DParameterSet.h"
 #include "modules/XYZParameterSet.h"
