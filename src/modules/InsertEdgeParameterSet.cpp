@@ -1,0 +1,29 @@
+#include "modules/InsertEdgeParameterSet.h"
+
+TQ_InsertEdgeParameterSet::TQ_InsertEdgeParameterSet() : TQ::ClipBoundParameterSet(QStringLiteral("Edge"))
+{
+    init();
+}
+
+TQ_InsertEdgeParameterSet::TQ_InsertEdgeParameterSet(TQ_InsertEdgeParameterSet const& other)
+    : TQ::ClipBoundParameterSet(QStringLiteral("Edge")), TQ::InsertEdgeMembers(other)
+{
+    init();
+}
+
+TQ_InsertEdgeParameterSet& TQ_InsertEdgeParameterSet::operator=(TQ_InsertEdgeParameterSet const& other)
+{
+    if (this == &other)
+        return *this;
+    Prm::ParameterSet::operator=(other);
+    TQ::InsertEdgeMembers::operator=(other);
+    setScriptName(other.qstrScriptName());
+    return *this;
+}
+
+TQ_InsertEdgeParameterSet::~TQ_InsertEdgeParameterSet() = default;
+
+void TQ_InsertEdgeParameterSet::init()
+{
+    vAddParameters({&EdgeWidthBottom, &EdgeWidthTop, &EdgeWidthLeft, &EdgeWidthRight});
+}
