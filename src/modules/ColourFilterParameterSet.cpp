@@ -1,0 +1,40 @@
+#include "modules/ColourFilterParameterSet.h"
+
+TQ_ColourFilterParameterSet::TQ_ColourFilterParameterSet()
+    : TQ::ClipBoundParameterSet(QStringLiteral("ColourFilter"))
+{
+    init();
+}
+
+TQ_ColourFilterParameterSet::TQ_ColourFilterParameterSet(TQ_ColourFilterParameterSet const& other)
+    : TQ::ClipBoundParameterSet(QStringLiteral("ColourFilter")), TQ::ColourFilterMembers(other)
+{
+    init();
+}
+
+TQ_ColourFilterParameterSet& TQ_ColourFilterParameterSet::operator=(TQ_ColourFilterParameterSet const& other)
+{
+    if (this == &other)
+        return *this;
+    Prm::ParameterSet::operator=(other);
+    TQ::ColourFilterMembers::operator=(other);
+    setScriptName(other.qstrScriptName());
+    return *this;
+}
+
+TQ_ColourFilterParameterSet::~TQ_ColourFilterParameterSet() = default;
+
+void TQ_ColourFilterParameterSet::init()
+{
+    vAddParameters({&FilledClipID, &ApplyBlackFilter, &ApplyWhiteFilter, &BlackLuminanceLevel, &WhiteLuminanceLevel,
+                    &BrightnessDilation, &BrightnessFillAlgorithm, &BrightnessSmoothingLevel, &ApplyBallBustingRed,
+                    &ApplyBallBustingGreen, &ApplyBallBustingBlue, &BallBustingThresholdRed,
+                    &BallBustingThresholdGreen, &BallBustingThresholdBlue, &BallBustingDilation,
+                    &BallBustingFillAlgorithm, &BallBustingSmoothingLevel, &ApplyFillOnlyInRenderedArea,
+                    &LastApplyFillOnlyInRenderedArea});
+}
+
+void TQ_ColourFilterParameterSet::removeReferencesToClip(unsigned int clipId)
+{
+    forgetClip(FilledClipID, clipId);
+}

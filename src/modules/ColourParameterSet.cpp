@@ -1,0 +1,66 @@
+#include "modules/ColourParameterSet.h"
+
+TQ_ColourParams::TQ_ColourParams() : Prm::ParameterSet(QStringLiteral("ColourBand"), nullptr)
+{
+    init();
+}
+
+TQ_ColourParams::TQ_ColourParams(TQ_ColourParams const& other)
+    : Prm::ParameterSet(QStringLiteral("ColourBand"), nullptr), TQ::ColourBandMembers(other)
+{
+    init();
+}
+
+TQ_ColourParams& TQ_ColourParams::operator=(TQ_ColourParams const& other)
+{
+    if (this == &other)
+        return *this;
+    Prm::ParameterSet::operator=(other);
+    TQ::ColourBandMembers::operator=(other);
+    setScriptName(other.qstrScriptName());
+    return *this;
+}
+
+TQ_ColourParams::~TQ_ColourParams() = default;
+
+void TQ_ColourParams::init()
+{
+    for (Prm::ParameterWithoutType* parameter : {&Hue, &Saturation, &GainBalance, &TintBalance, &Contrast, &Brightness})
+        addParameter(parameter);
+}
+
+TQ_ColourParameterSet::TQ_ColourParameterSet() : TQ::ClipBoundParameterSet(QStringLiteral("Colour"))
+{
+    init();
+}
+
+TQ_ColourParameterSet::TQ_ColourParameterSet(TQ_ColourParameterSet const& other)
+    : TQ::ClipBoundParameterSet(QStringLiteral("Colour")), TQ::ColourMembers(other)
+{
+    init();
+}
+
+TQ_ColourParameterSet& TQ_ColourParameterSet::operator=(TQ_ColourParameterSet const& other)
+{
+    if (this == &other)
+        return *this;
+    Prm::ParameterSet::operator=(other);
+    TQ::ColourMembers::operator=(other);
+    setScriptName(other.qstrScriptName());
+    return *this;
+}
+
+TQ_ColourParameterSet::~TQ_ColourParameterSet() = default;
+
+void TQ_ColourParameterSet::init()
+{
+    vAddParameters({&InputClipID, &OutputClipID, &Render});
+    for (TQ_ColourParams& band : bands)
+        childSets.append(&band);
+}
+
+void TQ_ColourParameterSet::removeReferencesToClip(unsigned int clipId)
+{
+    forgetClip(InputClipID, clipId);
+    forgetClip(OutputClipID, clipId);
+}
