@@ -53,6 +53,10 @@ struct ColourMembers {
 
 /// The colour module, "Colour": input and output clips, "Render" and four colour bands as child sets.
 /// Copies and assignments cover everything, the bands included.
+///
+/// The bands share one name, so reading tells them apart by order: each band wrote one block of lines in
+/// the order of its parameters and their fields, and a line that no longer fits the current block opens
+/// the next band's (after the last band, the first again, so a text can be read twice).
 class TQ_ColourParameterSet : public TQ::ClipBoundParameterSet, public TQ::ColourMembers
 {
 public:
@@ -63,7 +67,13 @@ public:
 
     /// Forgets "InputClipID", then "OutputClipID".
     void removeReferencesToClip(unsigned int clipId) override;
+    /// A band's line to the band whose block it continues; any other line as the base reads it.
+    bool bStreamIn(QString const& line) override;
 
 private:
     void init();
+
+    // Reading state of the bands' blocks; each set object starts its own.
+    int iReadingBand = 0;
+    int iLastBandLine = -1;
 };
