@@ -58,6 +58,19 @@ void ClipBoundParameterSet::vAddParameters(std::initializer_list<Prm::ParameterW
         addParameter(parameter);
 }
 
+void ClipBoundParameterSet::vForgetClips(std::initializer_list<Prm::Parameter<unsigned int>*> clips,
+                                         unsigned int clipId)
+{
+    for (Prm::Parameter<unsigned int>* clip : clips)
+        forgetClip(*clip, clipId);
+}
+
+void ClipBoundParameterSet::vHide(std::initializer_list<Prm::ParameterWithoutType*> parameters, bool bHide)
+{
+    for (Prm::ParameterWithoutType* parameter : parameters)
+        parameter->hide(bHide);
+}
+
 void ClipBoundParameterSet::vListMovedParameters(std::initializer_list<MovedParameterHandle const*> moved)
 {
     basicParameters.clear();

@@ -52,6 +52,10 @@ public:
 protected:
     /// `addParameter` on each, in order.
     void vAddParameters(std::initializer_list<Prm::ParameterWithoutType*> parameters);
+    /// `forgetClip` on each, in order.
+    static void vForgetClips(std::initializer_list<Prm::Parameter<unsigned int>*> clips, unsigned int clipId);
+    /// `hide(bHide)` on each.
+    static void vHide(std::initializer_list<Prm::ParameterWithoutType*> parameters, bool bHide);
     /// Makes `basicParameters` list exactly these moved parameters, in order. Call it from `init()` and
     /// again after assigning the handles, whose objects may have changed.
     void vListMovedParameters(std::initializer_list<MovedParameterHandle const*> moved);
