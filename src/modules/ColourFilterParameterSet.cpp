@@ -7,7 +7,7 @@ TQ_ColourFilterParameterSet::TQ_ColourFilterParameterSet()
 }
 
 TQ_ColourFilterParameterSet::TQ_ColourFilterParameterSet(TQ_ColourFilterParameterSet const& other)
-    : TQ::ClipBoundParameterSet(QStringLiteral("ColourFilter")), TQ::ColourFilterMembers(other)
+    : TQ::ClipBoundParameterSet(QStringLiteral("ColourFilter")), TQ::Table::ColourFilterParameters(other)
 {
     init();
 }
@@ -17,7 +17,7 @@ TQ_ColourFilterParameterSet& TQ_ColourFilterParameterSet::operator=(TQ_ColourFil
     if (this == &other)
         return *this;
     Prm::ParameterSet::operator=(other);
-    TQ::ColourFilterMembers::operator=(other);
+    TQ::Table::ColourFilterParameters::operator=(other);
     setScriptName(other.qstrScriptName());
     return *this;
 }

@@ -8,7 +8,7 @@ TQ_ColourParams::TQ_ColourParams() : Prm::ParameterSet(QStringLiteral("ColourBan
 }
 
 TQ_ColourParams::TQ_ColourParams(TQ_ColourParams const& other)
-    : Prm::ParameterSet(QStringLiteral("ColourBand"), nullptr), TQ::ColourBandMembers(other)
+    : Prm::ParameterSet(QStringLiteral("ColourBand"), nullptr), TQ::Table::ColourBandParameters(other)
 {
     init();
 }
@@ -18,7 +18,7 @@ TQ_ColourParams& TQ_ColourParams::operator=(TQ_ColourParams const& other)
     if (this == &other)
         return *this;
     Prm::ParameterSet::operator=(other);
-    TQ::ColourBandMembers::operator=(other);
+    TQ::Table::ColourBandParameters::operator=(other);
     setScriptName(other.qstrScriptName());
     return *this;
 }
@@ -37,7 +37,7 @@ TQ_ColourParameterSet::TQ_ColourParameterSet() : TQ::ClipBoundParameterSet(QStri
 }
 
 TQ_ColourParameterSet::TQ_ColourParameterSet(TQ_ColourParameterSet const& other)
-    : TQ::ClipBoundParameterSet(QStringLiteral("Colour")), TQ::ColourMembers(other)
+    : TQ::ClipBoundParameterSet(QStringLiteral("Colour")), TQ::Table::ColourParameters(other)
 {
     init();
 }
@@ -47,7 +47,7 @@ TQ_ColourParameterSet& TQ_ColourParameterSet::operator=(TQ_ColourParameterSet co
     if (this == &other)
         return *this;
     Prm::ParameterSet::operator=(other);
-    TQ::ColourMembers::operator=(other);
+    TQ::Table::ColourParameters::operator=(other);
     setScriptName(other.qstrScriptName());
     return *this;
 }
@@ -63,8 +63,7 @@ void TQ_ColourParameterSet::init()
 
 void TQ_ColourParameterSet::removeReferencesToClip(unsigned int clipId)
 {
-    forgetClip(InputClipID, clipId);
-    forgetClip(OutputClipID, clipId);
+    vForgetClips({&InputClipID, &OutputClipID}, clipId);
 }
 
 bool TQ_ColourParameterSet::bStreamIn(QString const& line)

@@ -1,31 +1,25 @@
 #pragma once
-#include "modules/ClipBoundParameterSet.h"
+#include "modules/ParameterTable.h"
 #include "prm/NumericParameter.h"
 #include "prm/ParameterSet.h"
 
-namespace TQ {
+namespace TQ::Table {
 
 /// The controls of one colour band, in text order; the only module parameters that extrapolate linearly.
-struct ColourBandMembers {
-    Prm::NumericParameter<float> Hue{true, "Hue", 0.0f, 0.0f, 6.3f, Prm::InterpolationLinear,
-                                     Prm::ExtrapolationLinear};
-    Prm::NumericParameter<float> Saturation{true, "Saturation", 1.0f, 0.0f, 5.0f, Prm::InterpolationLinear,
-                                            Prm::ExtrapolationLinear};
-    Prm::NumericParameter<float> GainBalance{true, "GainBalance", 0.0f, 0.0f, 1.0f, Prm::InterpolationLinear,
-                                             Prm::ExtrapolationLinear};
-    Prm::NumericParameter<float> TintBalance{true, "TintBalance", 0.0f, 0.0f, 1.0f, Prm::InterpolationLinear,
-                                             Prm::ExtrapolationLinear};
-    Prm::NumericParameter<float> Contrast{true, "Contrast", 1.0f, 0.0f, 1.0f, Prm::InterpolationLinear,
-                                          Prm::ExtrapolationLinear};
-    Prm::NumericParameter<float> Brightness{true, "Brightness", 1.0f, 0.0f, 1.0f, Prm::InterpolationLinear,
-                                            Prm::ExtrapolationLinear};
+struct ColourBandParameters {
+    Numeric<float> Hue{Keyed, "Hue", 0.0f, 0.0f, 6.3f, Linear, Prm::ExtrapolationLinear};
+    Numeric<float> Saturation{Keyed, "Saturation", 1.0f, 0.0f, 5.0f, Linear, Prm::ExtrapolationLinear};
+    Numeric<float> GainBalance{Keyed, "GainBalance", 0.0f, 0.0f, 1.0f, Linear, Prm::ExtrapolationLinear};
+    Numeric<float> TintBalance{Keyed, "TintBalance", 0.0f, 0.0f, 1.0f, Linear, Prm::ExtrapolationLinear};
+    Numeric<float> Contrast{Keyed, "Contrast", 1.0f, 0.0f, 1.0f, Linear, Prm::ExtrapolationLinear};
+    Numeric<float> Brightness{Keyed, "Brightness", 1.0f, 0.0f, 1.0f, Linear, Prm::ExtrapolationLinear};
 };
 
-} // namespace TQ
+} // namespace TQ::Table
 
 /// One band of colour controls, "ColourBand": hue, saturation, gain and tint balance, contrast and
 /// brightness. Names no clip, so it is a plain parameter set. Copies and assignments cover all six.
-class TQ_ColourParams : public Prm::ParameterSet, public TQ::ColourBandMembers
+class TQ_ColourParams : public Prm::ParameterSet, public TQ::Table::ColourBandParameters
 {
 public:
     TQ_ColourParams();
@@ -37,19 +31,18 @@ private:
     void init();
 };
 
-namespace TQ {
+namespace TQ::Table {
 
 /// The colour module's clips, its live "Render" switch and its four bands, in text order.
-struct ColourMembers {
-    Prm::Parameter<unsigned int> InputClipID{false, "InputClipID", 1u, Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::Parameter<unsigned int> OutputClipID{false, "OutputClipID", 0u, Prm::InterpolationStep,
-                                              Prm::ExtrapolationHold};
-    Prm::Parameter<bool> Render{false, "Render", true, Prm::InterpolationStep, Prm::ExtrapolationHold};
+struct ColourParameters {
+    Parameter<unsigned int> InputClipID = clipReference("InputClipID", 1);
+    Parameter<unsigned int> OutputClipID = clipReference("OutputClipID", 0);
+    Parameter<bool> Render{Unkeyed, "Render", true, Step, Hold};
     /// All named "ColourBand": the text tells them apart by order alone.
     TQ_ColourParams bands[4];
 };
 
-} // namespace TQ
+} // namespace TQ::Table
 
 /// The colour module, "Colour": input and output clips, "Render" and four colour bands as child sets.
 /// Copies and assignments cover everything, the bands included.
@@ -57,7 +50,7 @@ struct ColourMembers {
 /// The bands share one name, so reading tells them apart by order: each band wrote one block of lines in
 /// the order of its parameters and their fields, and a line that no longer fits the current block opens
 /// the next band's (after the last band, the first again, so a text can be read twice).
-class TQ_ColourParameterSet : public TQ::ClipBoundParameterSet, public TQ::ColourMembers
+class TQ_ColourParameterSet : public TQ::ClipBoundParameterSet, public TQ::Table::ColourParameters
 {
 public:
     TQ_ColourParameterSet();

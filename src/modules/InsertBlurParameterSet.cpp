@@ -6,7 +6,7 @@ TQ_InsertBlurParameterSet::TQ_InsertBlurParameterSet() : TQ::ClipBoundParameterS
 }
 
 TQ_InsertBlurParameterSet::TQ_InsertBlurParameterSet(TQ_InsertBlurParameterSet const& other)
-    : TQ::ClipBoundParameterSet(QStringLiteral("Blur")), TQ::InsertBlurMembers(other)
+    : TQ::ClipBoundParameterSet(QStringLiteral("Blur")), TQ::Table::InsertBlurParameters(other)
 {
     init();
 }
@@ -16,7 +16,7 @@ TQ_InsertBlurParameterSet& TQ_InsertBlurParameterSet::operator=(TQ_InsertBlurPar
     if (this == &other)
         return *this;
     Prm::ParameterSet::operator=(other);
-    TQ::InsertBlurMembers::operator=(other);
+    TQ::Table::InsertBlurParameters::operator=(other);
     setScriptName(other.qstrScriptName());
     return *this;
 }

@@ -9,7 +9,7 @@ TQ_InsertCompositeParameterSet::TQ_InsertCompositeParameterSet()
 }
 
 TQ_InsertCompositeParameterSet::TQ_InsertCompositeParameterSet(TQ_InsertCompositeParameterSet const& other)
-    : TQ::ClipBoundParameterSet(QStringLiteral("Composite")), TQ::InsertCompositeMembers(other)
+    : TQ::ClipBoundParameterSet(QStringLiteral("Composite")), TQ::Table::InsertCompositeParameters(other)
 {
     init();
 }
@@ -19,7 +19,7 @@ TQ_InsertCompositeParameterSet& TQ_InsertCompositeParameterSet::operator=(TQ_Ins
     if (this == &other)
         return *this;
     Prm::ParameterSet::operator=(other);
-    TQ::InsertCompositeMembers::operator=(other);
+    TQ::Table::InsertCompositeParameters::operator=(other);
     setScriptName(other.qstrScriptName());
     return *this;
 }

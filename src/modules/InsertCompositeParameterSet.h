@@ -1,43 +1,31 @@
 #pragma once
-#include "modules/ClipBoundParameterSet.h"
+#include "modules/ParameterTable.h"
 #include "prm/NumericParameter.h"
 
-namespace TQ {
+namespace TQ::Table {
 
 /// The parameters of compositing an insert, in text order.
-struct InsertCompositeMembers {
-    Prm::Parameter<unsigned int> LayerClipID{false, "LayerClipID", 0u, Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::NumericParameter<bool> ApplyAlphaOfInsert{false, "ApplyAlphaOfInsert", true, false, true,
-                                                   Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::NumericParameter<bool> InvertAlphaOfInsert{false, "InvertAlphaOfInsert", false, false, true,
-                                                    Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::NumericParameter<bool> ApplyAlphaOfBackground{false, "ApplyAlphaOfBackground", false, false, true,
-                                                       Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::NumericParameter<bool> InvertAlphaOfBackground{false, "InvertAlphaOfBackground", false, false, true,
-                                                        Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::NumericParameter<bool> ApplyLayerMatte{false, "ApplyLayerMatte", false, false, true, Prm::InterpolationStep,
-                                                Prm::ExtrapolationHold};
-    Prm::NumericParameter<bool> invertLayerMatte{false, "invertLayerMatte", false, false, true,
-                                                 Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::NumericParameter<float> IntensityAll{true, "IntensityAll", 1.0f, 0.0f, 100.0f, Prm::InterpolationLinear,
-                                              Prm::ExtrapolationHold};
-    Prm::NumericParameter<float> IntensityRed{true, "IntensityRed", 1.0f, 0.0f, 100.0f, Prm::InterpolationLinear,
-                                              Prm::ExtrapolationHold};
-    Prm::NumericParameter<float> IntensityGreen{true, "IntensityGreen", 1.0f, 0.0f, 100.0f, Prm::InterpolationLinear,
-                                                Prm::ExtrapolationHold};
-    Prm::NumericParameter<float> IntensityBlue{true, "IntensityBlue", 1.0f, 0.0f, 100.0f, Prm::InterpolationLinear,
-                                               Prm::ExtrapolationHold};
-    Prm::NumericParameter<float> IntensityAlpha{true, "IntensityAlpha", 1.0f, 0.0f, 100.0f, Prm::InterpolationLinear,
-                                                Prm::ExtrapolationHold};
-    Prm::NumericParameter<float> ErodeAlpha{true, "ErodeAlpha", 0.0f, 0.0f, 100.0f, Prm::InterpolationLinear,
-                                            Prm::ExtrapolationHold};
+struct InsertCompositeParameters {
+    Parameter<unsigned int> LayerClipID = clipReference("LayerClipID", 0);
+    Numeric<bool> ApplyAlphaOfInsert{Unkeyed, "ApplyAlphaOfInsert", true, false, true, Step, Hold};
+    Numeric<bool> InvertAlphaOfInsert{Unkeyed, "InvertAlphaOfInsert", false, false, true, Step, Hold};
+    Numeric<bool> ApplyAlphaOfBackground{Unkeyed, "ApplyAlphaOfBackground", false, false, true, Step, Hold};
+    Numeric<bool> InvertAlphaOfBackground{Unkeyed, "InvertAlphaOfBackground", false, false, true, Step, Hold};
+    Numeric<bool> ApplyLayerMatte{Unkeyed, "ApplyLayerMatte", false, false, true, Step, Hold};
+    Numeric<bool> invertLayerMatte{Unkeyed, "invertLayerMatte", false, false, true, Step, Hold};
+    Numeric<float> IntensityAll{Keyed, "IntensityAll", 1.0f, 0.0f, 100.0f, Linear, Hold};
+    Numeric<float> IntensityRed{Keyed, "IntensityRed", 1.0f, 0.0f, 100.0f, Linear, Hold};
+    Numeric<float> IntensityGreen{Keyed, "IntensityGreen", 1.0f, 0.0f, 100.0f, Linear, Hold};
+    Numeric<float> IntensityBlue{Keyed, "IntensityBlue", 1.0f, 0.0f, 100.0f, Linear, Hold};
+    Numeric<float> IntensityAlpha{Keyed, "IntensityAlpha", 1.0f, 0.0f, 100.0f, Linear, Hold};
+    Numeric<float> ErodeAlpha{Keyed, "ErodeAlpha", 0.0f, 0.0f, 100.0f, Linear, Hold};
 };
 
-} // namespace TQ
+} // namespace TQ::Table
 
 /// How an inserted image is composited, "Composite": the layer clip, the alpha and matte switches and the
 /// per-channel gains ("IntensityAll" shows as "Gain", "IntensityAlpha" as "Opacity").
-class TQ_InsertCompositeParameterSet : public TQ::ClipBoundParameterSet, public TQ::InsertCompositeMembers
+class TQ_InsertCompositeParameterSet : public TQ::ClipBoundParameterSet, public TQ::Table::InsertCompositeParameters
 {
 public:
     TQ_InsertCompositeParameterSet();

@@ -6,7 +6,7 @@ TQ_InsertEdgeParameterSet::TQ_InsertEdgeParameterSet() : TQ::ClipBoundParameterS
 }
 
 TQ_InsertEdgeParameterSet::TQ_InsertEdgeParameterSet(TQ_InsertEdgeParameterSet const& other)
-    : TQ::ClipBoundParameterSet(QStringLiteral("Edge")), TQ::InsertEdgeMembers(other)
+    : TQ::ClipBoundParameterSet(QStringLiteral("Edge")), TQ::Table::InsertEdgeParameters(other)
 {
     init();
 }
@@ -16,7 +16,7 @@ TQ_InsertEdgeParameterSet& TQ_InsertEdgeParameterSet::operator=(TQ_InsertEdgePar
     if (this == &other)
         return *this;
     Prm::ParameterSet::operator=(other);
-    TQ::InsertEdgeMembers::operator=(other);
+    TQ::Table::InsertEdgeParameters::operator=(other);
     setScriptName(other.qstrScriptName());
     return *this;
 }

@@ -1,26 +1,22 @@
 #pragma once
-#include "modules/ClipBoundParameterSet.h"
+#include "modules/ParameterTable.h"
 #include "prm/NumericParameter.h"
 
-namespace TQ {
+namespace TQ::Table {
 
 /// The parameters of the soft edge, in text order.
-struct InsertEdgeMembers {
-    Prm::NumericParameter<float> EdgeWidthBottom{true, "EdgeWidthBottom", 0.0f, 0.0f, 1.0f, Prm::InterpolationLinear,
-                                                 Prm::ExtrapolationHold};
-    Prm::NumericParameter<float> EdgeWidthTop{true, "EdgeWidthTop", 0.0f, 0.0f, 1.0f, Prm::InterpolationLinear,
-                                              Prm::ExtrapolationHold};
-    Prm::NumericParameter<float> EdgeWidthLeft{true, "EdgeWidthLeft", 0.0f, 0.0f, 1.0f, Prm::InterpolationLinear,
-                                               Prm::ExtrapolationHold};
-    Prm::NumericParameter<float> EdgeWidthRight{true, "EdgeWidthRight", 0.0f, 0.0f, 1.0f, Prm::InterpolationLinear,
-                                                Prm::ExtrapolationHold};
+struct InsertEdgeParameters {
+    Numeric<float> EdgeWidthBottom{Keyed, "EdgeWidthBottom", 0.0f, 0.0f, 1.0f, Linear, Hold};
+    Numeric<float> EdgeWidthTop{Keyed, "EdgeWidthTop", 0.0f, 0.0f, 1.0f, Linear, Hold};
+    Numeric<float> EdgeWidthLeft{Keyed, "EdgeWidthLeft", 0.0f, 0.0f, 1.0f, Linear, Hold};
+    Numeric<float> EdgeWidthRight{Keyed, "EdgeWidthRight", 0.0f, 0.0f, 1.0f, Linear, Hold};
 };
 
-} // namespace TQ
+} // namespace TQ::Table
 
 /// The soft edge of an inserted image, "Edge": a width for each side, as a fraction from 0 to 1. It names
 /// no clip: `rescale` and `removeReferencesToClip` do nothing.
-class TQ_InsertEdgeParameterSet : public TQ::ClipBoundParameterSet, public TQ::InsertEdgeMembers
+class TQ_InsertEdgeParameterSet : public TQ::ClipBoundParameterSet, public TQ::Table::InsertEdgeParameters
 {
 public:
     TQ_InsertEdgeParameterSet();

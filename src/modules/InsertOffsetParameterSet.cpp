@@ -35,7 +35,7 @@ TQ_InsertOffsetParameterSet::TQ_InsertOffsetParameterSet() : TQ::ClipBoundParame
 }
 
 TQ_InsertOffsetParameterSet::TQ_InsertOffsetParameterSet(TQ_InsertOffsetParameterSet const& other)
-    : TQ::ClipBoundParameterSet(QStringLiteral("Offset")), TQ::InsertOffsetMembers(other)
+    : TQ::ClipBoundParameterSet(QStringLiteral("Offset")), TQ::Table::InsertOffsetParameters(other)
 {
     init();
 }
@@ -45,7 +45,7 @@ TQ_InsertOffsetParameterSet& TQ_InsertOffsetParameterSet::operator=(TQ_InsertOff
     if (this == &other)
         return *this;
     Prm::ParameterSet::operator=(other);
-    TQ::InsertOffsetMembers::operator=(other);
+    TQ::Table::InsertOffsetParameters::operator=(other);
     setScriptName(other.qstrScriptName());
     return *this;
 }
@@ -62,21 +62,21 @@ void TQ_InsertOffsetParameterSet::init()
         char const* displayName;
     };
     Shown const shown[] = {
-        {&OffsetTranslationX, "Translation X"},
-        {&OffsetTranslationY, "Translation Y"},
-        {&OffsetRotationZ, "Rotation Z"},
-        {&OffsetScale, "Scale"},
-        {&OffsetShearX, "Shear X"},
-        {&OffsetShearY, "Shear Y"},
-        {&OffsetElationX, "Perspective X"},
-        {&OffsetElationY, "Perspective Y"},
-        {&ApplyTrackingScale, "Apply Tracking Scale"},
-        {&TrackingScale, "Tracking Scale"},
-        {&TrackingScaleReferenceFrame, "Tracking Scale Reference Frame"},
-        {&Apply3DDepthEffect, "Apply 3D Offset"},
-        {&CornerDepth, "3D Offset Depth"},
-        {&CornerAxisZ, "3D Offset Rotation Z"},
-        {&CornerTiltXY, "3D Offset Tilt XY"},
+        {&OffsetTranslationX, QT_TRANSLATE_NOOP("Parameter", "Translation X")},
+        {&OffsetTranslationY, QT_TRANSLATE_NOOP("Parameter", "Translation Y")},
+        {&OffsetRotationZ, QT_TRANSLATE_NOOP("Parameter", "Rotation Z")},
+        {&OffsetScale, QT_TRANSLATE_NOOP("Parameter", "Scale")},
+        {&OffsetShearX, QT_TRANSLATE_NOOP("Parameter", "Shear X")},
+        {&OffsetShearY, QT_TRANSLATE_NOOP("Parameter", "Shear Y")},
+        {&OffsetElationX, QT_TRANSLATE_NOOP("Parameter", "Perspective X")},
+        {&OffsetElationY, QT_TRANSLATE_NOOP("Parameter", "Perspective Y")},
+        {&ApplyTrackingScale, QT_TRANSLATE_NOOP("Parameter", "Apply Tracking Scale")},
+        {&TrackingScale, QT_TRANSLATE_NOOP("Parameter", "Tracking Scale")},
+        {&TrackingScaleReferenceFrame, QT_TRANSLATE_NOOP("Parameter", "Tracking Scale Reference Frame")},
+        {&Apply3DDepthEffect, QT_TRANSLATE_NOOP("Parameter", "Apply 3D Offset")},
+        {&CornerDepth, QT_TRANSLATE_NOOP("Parameter", "3D Offset Depth")},
+        {&CornerAxisZ, QT_TRANSLATE_NOOP("Parameter", "3D Offset Rotation Z")},
+        {&CornerTiltXY, QT_TRANSLATE_NOOP("Parameter", "3D Offset Tilt XY")},
     };
     for (Shown const& entry : shown)
         entry.parameter->setDisplayName(QCoreApplication::translate("Parameter", entry.displayName));

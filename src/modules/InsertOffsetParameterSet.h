@@ -1,5 +1,5 @@
 #pragma once
-#include "modules/ClipBoundParameterSet.h"
+#include "modules/ParameterTable.h"
 #include "prm/NumericParameter.h"
 
 #include <limits>
@@ -22,51 +22,39 @@ public:
     double display2Value(double value, float time) const override;
 };
 
-/// The parameters of the offset applied on top of the track, in text order.
-struct InsertOffsetMembers {
-    static constexpr double dLargest = std::numeric_limits<double>::max();
-    static constexpr float fLargest = std::numeric_limits<float>::max();
+} // namespace TQ
 
-    Prm::NumericParameter<double> OffsetTranslationX{true, "OffsetTranslationX", 0.0, -dLargest, dLargest,
-                                                     Prm::InterpolationLinear, Prm::ExtrapolationHold};
-    Prm::NumericParameter<double> OffsetTranslationY{true, "OffsetTranslationY", 0.0, -dLargest, dLargest,
-                                                     Prm::InterpolationLinear, Prm::ExtrapolationHold};
-    RotationParameter OffsetRotationZ{true, "OffsetRotationZ", 0.0, -dLargest, dLargest, Prm::InterpolationLinear,
-                                      Prm::ExtrapolationHold};
-    Prm::NumericParameter<double> OffsetScale{true, "OffsetScale", 1.0, -dLargest, dLargest,
-                                              Prm::InterpolationLinear, Prm::ExtrapolationHold};
-    Prm::NumericParameter<double> OffsetShearX{true, "OffsetShearX", 0.0, -dLargest, dLargest,
-                                               Prm::InterpolationLinear, Prm::ExtrapolationHold};
-    Prm::NumericParameter<double> OffsetShearY{true, "OffsetShearY", 1.0, -dLargest, dLargest,
-                                               Prm::InterpolationLinear, Prm::ExtrapolationHold};
-    Prm::NumericParameter<double> OffsetElationX{true, "OffsetElationX", 0.0, -dLargest, dLargest,
-                                                 Prm::InterpolationLinear, Prm::ExtrapolationHold};
-    Prm::NumericParameter<double> OffsetElationY{true, "OffsetElationY", 0.0, -dLargest, dLargest,
-                                                 Prm::InterpolationLinear, Prm::ExtrapolationHold};
-    Prm::NumericParameter<bool> ApplyTrackingScale{true, "ApplyTrackingScale", false, false, true,
-                                                   Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::NumericParameter<float> TrackingScale{true, "TrackingScale", 0.0f, 0.0f, fLargest, Prm::InterpolationLinear,
-                                               Prm::ExtrapolationHold};
-    Prm::NumericParameter<unsigned int> TrackingScaleReferenceFrame{true, "TrackingScaleReferenceFrame", 0u, 0u,
-                                                                    1000000u, Prm::InterpolationStep,
-                                                                    Prm::ExtrapolationHold};
-    Prm::NumericParameter<bool> Apply3DDepthEffect{true, "Apply3DDepthEffect", false, false, true,
-                                                   Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::NumericParameter<float> CornerDepth{true, "CornerDepth", 0.0f, -fLargest, fLargest, Prm::InterpolationLinear,
-                                             Prm::ExtrapolationHold};
-    Prm::NumericParameter<float> CornerAxisZ{true, "CornerAxisZ", 0.0f, -fLargest, fLargest, Prm::InterpolationLinear,
-                                             Prm::ExtrapolationHold};
-    Prm::NumericParameter<float> CornerTiltXY{true, "CornerTiltXY", 0.0f, -fLargest, fLargest,
-                                              Prm::InterpolationLinear, Prm::ExtrapolationHold};
+namespace TQ::Table {
+
+/// The parameters of the offset applied on top of the track, in text order.
+struct InsertOffsetParameters {
+    static constexpr float LargestFloat = std::numeric_limits<float>::max();
+
+    Numeric<double> OffsetTranslationX{Keyed, "OffsetTranslationX", 0.0, -LargestDouble, LargestDouble, Linear, Hold};
+    Numeric<double> OffsetTranslationY{Keyed, "OffsetTranslationY", 0.0, -LargestDouble, LargestDouble, Linear, Hold};
+    RotationParameter OffsetRotationZ{Keyed, "OffsetRotationZ", 0.0, -LargestDouble, LargestDouble, Linear, Hold};
+    Numeric<double> OffsetScale{Keyed, "OffsetScale", 1.0, -LargestDouble, LargestDouble, Linear, Hold};
+    Numeric<double> OffsetShearX{Keyed, "OffsetShearX", 0.0, -LargestDouble, LargestDouble, Linear, Hold};
+    Numeric<double> OffsetShearY{Keyed, "OffsetShearY", 1.0, -LargestDouble, LargestDouble, Linear, Hold};
+    Numeric<double> OffsetElationX{Keyed, "OffsetElationX", 0.0, -LargestDouble, LargestDouble, Linear, Hold};
+    Numeric<double> OffsetElationY{Keyed, "OffsetElationY", 0.0, -LargestDouble, LargestDouble, Linear, Hold};
+    Numeric<bool> ApplyTrackingScale{Keyed, "ApplyTrackingScale", false, false, true, Step, Hold};
+    Numeric<float> TrackingScale{Keyed, "TrackingScale", 0.0f, 0.0f, LargestFloat, Linear, Hold};
+    Numeric<unsigned int> TrackingScaleReferenceFrame{Keyed, "TrackingScaleReferenceFrame", 0u, 0u, 1000000u, Step,
+                                                      Hold};
+    Numeric<bool> Apply3DDepthEffect{Keyed, "Apply3DDepthEffect", false, false, true, Step, Hold};
+    Numeric<float> CornerDepth{Keyed, "CornerDepth", 0.0f, -LargestFloat, LargestFloat, Linear, Hold};
+    Numeric<float> CornerAxisZ{Keyed, "CornerAxisZ", 0.0f, -LargestFloat, LargestFloat, Linear, Hold};
+    Numeric<float> CornerTiltXY{Keyed, "CornerTiltXY", 0.0f, -LargestFloat, LargestFloat, Linear, Hold};
 };
 
-} // namespace TQ
+} // namespace TQ::Table
 
 /// The offset of an inserted image from its track, "Offset": translation, rotation, scale, shear and
 /// perspective, a tracking scale and a 3D depth effect. Shown under display names of their own (the
 /// perspective values persist as "Elation"). It names no clip: `rescale` and `removeReferencesToClip` do
 /// nothing.
-class TQ_InsertOffsetParameterSet : public TQ::ClipBoundParameterSet, public TQ::InsertOffsetMembers
+class TQ_InsertOffsetParameterSet : public TQ::ClipBoundParameterSet, public TQ::Table::InsertOffsetParameters
 {
 public:
     using RotationParameter = TQ::RotationParameter;

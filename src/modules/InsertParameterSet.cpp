@@ -7,7 +7,7 @@ TQ_InsertParameterSet::TQ_InsertParameterSet(TQ_BaseClipInfoContainer* container
 }
 
 TQ_InsertParameterSet::TQ_InsertParameterSet(TQ_InsertParameterSet const& other)
-    : TQ::ClipBoundParameterSet(QStringLiteral("Insert")), TQ::InsertMembers(other), ROI(other.ROI),
+    : TQ::ClipBoundParameterSet(QStringLiteral("Insert")), TQ::Table::InsertParameters(other), ROI(other.ROI),
       Composite(other.Composite), Blur(other.Blur), Offset(other.Offset), Edge(other.Edge),
       Luminance(other.Luminance), ColourFilter(other.ColourFilter), clipContainer(other.clipContainer)
 {
@@ -19,7 +19,7 @@ TQ_InsertParameterSet& TQ_InsertParameterSet::operator=(TQ_InsertParameterSet co
     if (this == &other)
         return *this;
     Prm::ParameterSet::operator=(other);
-    TQ::InsertMembers::operator=(other);
+    TQ::Table::InsertParameters::operator=(other);
     vListMovedParameters({&Render});
     setScriptName(other.qstrScriptName());
     return *this;
@@ -43,10 +43,9 @@ void TQ_InsertParameterSet::rescale(float factor, float unused)
 
 void TQ_InsertParameterSet::removeReferencesToClip(unsigned int clipId)
 {
-    for (Prm::Parameter<unsigned int>* clip :
-         {&InputClipID, &InsertClipID, &MatteClipID, &SurfaceMatteClipID, &AlphaInputClipID, &AlphaInsertClipID,
-          &OutputClipID})
-        forgetClip(*clip, clipId);
+    vForgetClips({&InputClipID, &InsertClipID, &MatteClipID, &SurfaceMatteClipID, &AlphaInputClipID,
+                  &AlphaInsertClipID, &OutputClipID},
+                 clipId);
     Composite.removeReferencesToClip(clipId);
     Blur.removeReferencesToClip(clipId);
     Luminance.removeReferencesToClip(clipId);

@@ -1,5 +1,5 @@
 #pragma once
-#include "modules/ClipBoundParameterSet.h"
+#include "modules/ParameterTable.h"
 #include "modules/ColourFilterParameterSet.h"
 #include "modules/InsertBlurParameterSet.h"
 #include "modules/InsertCompositeParameterSet.h"
@@ -11,34 +11,27 @@
 
 class TQ_BaseClipInfoContainer;
 
-namespace TQ {
+namespace TQ::Table {
 
 /// The insert set's own parameters, in text order, with the moved "Render" after "Rendered": all that an
 /// assignment of the set carries over.
-struct InsertMembers {
-    Prm::Parameter<unsigned int> InputClipID{false, "InputClipID", 1u, Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::Parameter<unsigned int> InsertClipID{false, "InsertClipID", 0u, Prm::InterpolationStep,
-                                              Prm::ExtrapolationHold};
-    Prm::NumericParameter<bool> InsertPremultiplied{true, "InsertPremultiplied", false, false, true,
-                                                    Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::Parameter<unsigned int> MatteClipID{false, "MatteClipID", 0u, Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::Parameter<bool> RenderSurfaceMatte{false, "RenderSurfaceMatte", false, Prm::InterpolationStep,
-                                            Prm::ExtrapolationHold};
-    Prm::Parameter<unsigned int> SurfaceMatteClipID{false, "SurfaceMatteClipID", 0u, Prm::InterpolationStep,
-                                                    Prm::ExtrapolationHold};
-    Prm::Parameter<unsigned int> AlphaInputClipID{false, "AlphaInputClipID", 0u, Prm::InterpolationStep,
-                                                  Prm::ExtrapolationHold};
-    Prm::Parameter<unsigned int> AlphaInsertClipID{false, "AlphaInsertClipID", 0u, Prm::InterpolationStep,
-                                                   Prm::ExtrapolationHold};
-    Prm::Parameter<unsigned int> OutputClipID{false, "OutputClipID", 0u, Prm::InterpolationStep,
-                                              Prm::ExtrapolationHold};
-    Prm::Parameter<bool> Rendered{true, "Rendered", true, Prm::InterpolationUnset, Prm::ExtrapolationUnset};
-    ClipBoundParameterSet::MovedParameterHandle Render = ClipBoundParameterSet::newMovedParameter("Render");
-    Prm::Parameter<bool> TrackOnRender{true, "TrackOnRender", false, Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::Parameter<QString> URL{true, "URL", QString(""), Prm::InterpolationStep, Prm::ExtrapolationHold};
+struct InsertParameters {
+    Parameter<unsigned int> InputClipID = clipReference("InputClipID", 1);
+    Parameter<unsigned int> InsertClipID = clipReference("InsertClipID", 0);
+    Numeric<bool> InsertPremultiplied{Keyed, "InsertPremultiplied", false, false, true, Step, Hold};
+    Parameter<unsigned int> MatteClipID = clipReference("MatteClipID", 0);
+    Parameter<bool> RenderSurfaceMatte{Unkeyed, "RenderSurfaceMatte", false, Step, Hold};
+    Parameter<unsigned int> SurfaceMatteClipID = clipReference("SurfaceMatteClipID", 0);
+    Parameter<unsigned int> AlphaInputClipID = clipReference("AlphaInputClipID", 0);
+    Parameter<unsigned int> AlphaInsertClipID = clipReference("AlphaInsertClipID", 0);
+    Parameter<unsigned int> OutputClipID = clipReference("OutputClipID", 0);
+    Parameter<bool> Rendered{Keyed, "Rendered", true, Prm::InterpolationUnset, Prm::ExtrapolationUnset};
+    Moved Render = moved("Render");
+    Parameter<bool> TrackOnRender{Keyed, "TrackOnRender", false, Step, Hold};
+    Parameter<QString> URL{Keyed, "URL", QString(""), Step, Hold};
 };
 
-} // namespace TQ
+} // namespace TQ::Table
 
 /// The insert module, "Insert": the clips around an inserted image and, as child sets in this order of
 /// the text, its region of interest, compositing, blur, offset, edge, luminance effects and colour filter.
@@ -46,7 +39,7 @@ struct InsertMembers {
 /// A copy copies everything, the children and the container pointer included (its ROI coordinates still
 /// read the source's "InsertClipID", so the source should outlive the copy). An assignment carries only
 /// the set's own parameters and the moved "Render": the children and the container stay as they were.
-class TQ_InsertParameterSet : public TQ::ClipBoundParameterSet, public TQ::InsertMembers
+class TQ_InsertParameterSet : public TQ::ClipBoundParameterSet, public TQ::Table::InsertParameters
 {
 public:
     /// `clipContainer` is not owned; the ROI coordinates look their clip up in it.

@@ -63,25 +63,29 @@ float ROIParameter::display2Value(float value, float time) const
     return value / fScale(time);
 }
 
-InsertROIMembers::InsertROIMembers(Prm::Parameter<unsigned int>* clipId, TQ_BaseClipInfoContainer* container)
-    : ROIX1(true, "ROIX1", 0.0f, -10.0f, 10.0f, Prm::InterpolationLinear, Prm::ExtrapolationHold, clipId, container, true),
-      ROIY1(true, "ROIY1", 0.0f, -10.0f, 10.0f, Prm::InterpolationLinear, Prm::ExtrapolationHold, clipId, container, false),
-      ROIX2(true, "ROIX2", 1.0f, -10.0f, 10.0f, Prm::InterpolationLinear, Prm::ExtrapolationHold, clipId, container, true),
-      ROIY2(true, "ROIY2", 1.0f, -10.0f, 10.0f, Prm::InterpolationLinear, Prm::ExtrapolationHold, clipId, container, false)
+} // namespace TQ
+
+namespace TQ::Table {
+
+InsertROIParameters::InsertROIParameters(Parameter<unsigned int>* clipId, TQ_BaseClipInfoContainer* container)
+    : ROIX1(Keyed, "ROIX1", 0.0f, -10.0f, 10.0f, Linear, Hold, clipId, container, true)
+    , ROIY1(Keyed, "ROIY1", 0.0f, -10.0f, 10.0f, Linear, Hold, clipId, container, false)
+    , ROIX2(Keyed, "ROIX2", 1.0f, -10.0f, 10.0f, Linear, Hold, clipId, container, true)
+    , ROIY2(Keyed, "ROIY2", 1.0f, -10.0f, 10.0f, Linear, Hold, clipId, container, false)
 {
 }
 
-} // namespace TQ
+} // namespace TQ::Table
 
 TQ_InsertROIParameterSet::TQ_InsertROIParameterSet(Prm::Parameter<unsigned int>* clipId,
                                                    TQ_BaseClipInfoContainer* container)
-    : TQ::ClipBoundParameterSet(QStringLiteral("ROI")), TQ::InsertROIMembers(clipId, container)
+    : TQ::ClipBoundParameterSet(QStringLiteral("ROI")), TQ::Table::InsertROIParameters(clipId, container)
 {
     init();
 }
 
 TQ_InsertROIParameterSet::TQ_InsertROIParameterSet(TQ_InsertROIParameterSet const& other)
-    : TQ::ClipBoundParameterSet(QStringLiteral("ROI")), TQ::InsertROIMembers(other)
+    : TQ::ClipBoundParameterSet(QStringLiteral("ROI")), TQ::Table::InsertROIParameters(other)
 {
     init();
 }
@@ -91,7 +95,7 @@ TQ_InsertROIParameterSet& TQ_InsertROIParameterSet::operator=(TQ_InsertROIParame
     if (this == &other)
         return *this;
     Prm::ParameterSet::operator=(other);
-    TQ::InsertROIMembers::operator=(other);
+    TQ::Table::InsertROIParameters::operator=(other);
     setScriptName(other.qstrScriptName());
     return *this;
 }

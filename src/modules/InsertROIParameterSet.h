@@ -1,5 +1,5 @@
 #pragma once
-#include "modules/ClipBoundParameterSet.h"
+#include "modules/ParameterTable.h"
 #include "prm/NumericParameter.h"
 
 #include <QPointer>
@@ -46,9 +46,13 @@ private:
     float fScale(float time) const;
 };
 
+} // namespace TQ
+
+namespace TQ::Table {
+
 /// The parameters of the region of interest, in text order.
-struct InsertROIMembers {
-    InsertROIMembers(Prm::Parameter<unsigned int>* clipIdParameter, TQ_BaseClipInfoContainer* clipContainer);
+struct InsertROIParameters {
+    InsertROIParameters(Parameter<unsigned int>* clipIdParameter, TQ_BaseClipInfoContainer* clipContainer);
 
     ROIParameter ROIX1;
     ROIParameter ROIY1;
@@ -56,7 +60,7 @@ struct InsertROIMembers {
     ROIParameter ROIY2;
 };
 
-} // namespace TQ
+} // namespace TQ::Table
 
 /// The region of interest of an inserted image, "ROI": two corners as fractions of the frame of the clip
 /// that the insert set's "InsertClipID" names. It names no clip of its own: `rescale` and
@@ -64,7 +68,7 @@ struct InsertROIMembers {
 ///
 /// Copies and assignments carry each coordinate's clip parameter and container pointers over unchanged,
 /// so a copy still reads the clip parameter of the set it was copied from.
-class TQ_InsertROIParameterSet : public TQ::ClipBoundParameterSet, public TQ::InsertROIMembers
+class TQ_InsertROIParameterSet : public TQ::ClipBoundParameterSet, public TQ::Table::InsertROIParameters
 {
 public:
     using ROIParameter = TQ::ROIParameter;

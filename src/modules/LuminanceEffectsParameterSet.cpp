@@ -7,7 +7,7 @@ TQ_LuminanceEffectsParameterSet::TQ_LuminanceEffectsParameterSet()
 }
 
 TQ_LuminanceEffectsParameterSet::TQ_LuminanceEffectsParameterSet(TQ_LuminanceEffectsParameterSet const& other)
-    : TQ::ClipBoundParameterSet(QStringLiteral("Luminance")), TQ::LuminanceEffectsMembers(other)
+    : TQ::ClipBoundParameterSet(QStringLiteral("Luminance")), TQ::Table::LuminanceEffectsParameters(other)
 {
     init();
 }
@@ -17,7 +17,7 @@ TQ_LuminanceEffectsParameterSet& TQ_LuminanceEffectsParameterSet::operator=(TQ_L
     if (this == &other)
         return *this;
     Prm::ParameterSet::operator=(other);
-    TQ::LuminanceEffectsMembers::operator=(other);
+    TQ::Table::LuminanceEffectsParameters::operator=(other);
     setScriptName(other.qstrScriptName());
     return *this;
 }
@@ -38,9 +38,6 @@ void TQ_LuminanceEffectsParameterSet::init()
 
 void TQ_LuminanceEffectsParameterSet::removeReferencesToClip(unsigned int clipId)
 {
-    forgetClip(LuminanceReferenceClipID, clipId);
-    forgetClip(LuminanceClipID, clipId);
-    forgetClip(ShadowClipID, clipId);
-    forgetClip(HighlightClipID, clipId);
-    forgetClip(FilterClipID, clipId);
+    vForgetClips({&LuminanceReferenceClipID, &LuminanceClipID, &ShadowClipID, &HighlightClipID, &FilterClipID},
+                 clipId);
 }

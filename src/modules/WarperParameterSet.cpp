@@ -81,7 +81,7 @@ TQ_WarperParameterSet::TQ_WarperParameterSet() : TQ::ClipBoundParameterSet(QStri
 }
 
 TQ_WarperParameterSet::TQ_WarperParameterSet(TQ_WarperParameterSet const& other)
-    : TQ::ClipBoundParameterSet(QStringLiteral("Warper")), TQ::WarperMembers(other)
+    : TQ::ClipBoundParameterSet(QStringLiteral("Warper")), TQ::Table::WarperParameters(other)
 {
     init();
 }
@@ -91,7 +91,7 @@ TQ_WarperParameterSet& TQ_WarperParameterSet::operator=(TQ_WarperParameterSet co
     if (this == &other)
         return *this;
     Prm::ParameterSet::operator=(other);
-    TQ::WarperMembers::operator=(other);
+    TQ::Table::WarperParameters::operator=(other);
     vListMovedParameters({&Render});
     setScriptName(other.qstrScriptName());
     return *this;
@@ -116,6 +116,5 @@ void TQ_WarperParameterSet::init()
 
 void TQ_WarperParameterSet::removeReferencesToClip(unsigned int clipId)
 {
-    for (Prm::Parameter<unsigned int>* clip : {&InputClipID, &LayerClipID, &OutputClipID})
-        forgetClip(*clip, clipId);
+    vForgetClips({&InputClipID, &LayerClipID, &OutputClipID}, clipId);
 }

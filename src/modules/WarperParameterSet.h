@@ -1,6 +1,6 @@
 #pragma once
 #include "gandalf/BSpline.h"
-#include "modules/ClipBoundParameterSet.h"
+#include "modules/ParameterTable.h"
 #include "modules/CopyDepartures.h"
 #include "prm/NumericParameter.h"
 
@@ -34,39 +34,38 @@ public:
     Cell cells[iSize][iSize];
 };
 
+} // namespace TQ
+
+namespace TQ::Table {
+
 /// The warper's parameters, in member order: the moved "Render" after "Rendered", a flag that nothing
 /// reads after "ApplyEdgeLock", the weight grid last.
-struct WarperMembers {
-    Prm::Parameter<unsigned int> InputClipID{false, "InputClipID", 1u, Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::Parameter<unsigned int> LayerClipID{false, "LayerClipID", 0u, Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::Parameter<unsigned int> OutputClipID{false, "OutputClipID", 0u, Prm::InterpolationStep,
-                                              Prm::ExtrapolationHold};
-    Prm::Parameter<bool> Rendered{true, "Rendered", true, Prm::InterpolationUnset, Prm::ExtrapolationUnset};
-    ClipBoundParameterSet::MovedParameterHandle Render = ClipBoundParameterSet::newMovedParameter("Render");
-    Prm::NumericParameter<unsigned int> CubicBSplineLevel{false, "CubicBSplineLevel", 4u, 0u, 4u,
-                                                          Prm::InterpolationStep, Prm::ExtrapolationHold};
-    Prm::Parameter<bool> ApplyMatteToSource{false, "ApplyMatteToSource", true, Prm::InterpolationStep,
-                                            Prm::ExtrapolationHold};
-    Prm::Parameter<bool> ApplyMatteToDestination{false, "ApplyMatteToDestination", false, Prm::InterpolationStep,
-                                                 Prm::ExtrapolationHold};
-    Prm::Parameter<bool> UseAlphaOfInputClip{false, "UseAlphaOfInputClip", false, Prm::InterpolationStep,
-                                             Prm::ExtrapolationHold};
-    Prm::Parameter<bool> UseAlphaOfWarpClip{false, "UseAlphaOfWarpClip", false, Prm::InterpolationStep,
-                                            Prm::ExtrapolationHold};
-    Prm::Parameter<bool> ApplyEdgeLock{false, "ApplyEdgeLock", false, Prm::InterpolationStep, Prm::ExtrapolationHold};
-    NotCopied<Prm::Parameter<bool>> unusedFlag;
-    Prm::Parameter<bool> WarpInputClip{false, "WarpInputClip", true, Prm::InterpolationStep, Prm::ExtrapolationHold};
+struct WarperParameters {
+    Parameter<unsigned int> InputClipID = clipReference("InputClipID", 1);
+    Parameter<unsigned int> LayerClipID = clipReference("LayerClipID", 0);
+    Parameter<unsigned int> OutputClipID = clipReference("OutputClipID", 0);
+    Parameter<bool> Rendered{Keyed, "Rendered", true, Prm::InterpolationUnset, Prm::ExtrapolationUnset};
+    Moved Render = moved("Render");
+    Numeric<unsigned int> CubicBSplineLevel{Unkeyed, "CubicBSplineLevel", 4u, 0u, 4u, Step, Hold};
+    Parameter<bool> ApplyMatteToSource{Unkeyed, "ApplyMatteToSource", true, Step, Hold};
+    Parameter<bool> ApplyMatteToDestination{Unkeyed, "ApplyMatteToDestination", false, Step, Hold};
+    Parameter<bool> UseAlphaOfInputClip{Unkeyed, "UseAlphaOfInputClip", false, Step, Hold};
+    Parameter<bool> UseAlphaOfWarpClip{Unkeyed, "UseAlphaOfWarpClip", false, Step, Hold};
+    Parameter<bool> ApplyEdgeLock{Unkeyed, "ApplyEdgeLock", false, Step, Hold};
+    /// Never registered, copied, assigned or read; kept for the layout saved projects were made with.
+    NotCopied<Parameter<bool>> UnusedFlag;
+    Parameter<bool> WarpInputClip{Unkeyed, "WarpInputClip", true, Step, Hold};
     WarperWeightGrid Weights;
 };
 
-} // namespace TQ
+} // namespace TQ::Table
 
 /// The warper module, "Warper": its clips, matte and alpha switches, and a B-spline warp given by the
 /// weight grid. "CubicBSplineLevel" (0 to 4) is hidden.
 ///
 /// A copy copies everything; an assignment carries the named parameters and the moved "Render" but leaves
 /// the target's weights as they were.
-class TQ_WarperParameterSet : public TQ::ClipBoundParameterSet, public TQ::WarperMembers
+class TQ_WarperParameterSet : public TQ::ClipBoundParameterSet, public TQ::Table::WarperParameters
 {
 public:
     TQ_WarperParameterSet();
