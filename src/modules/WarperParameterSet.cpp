@@ -2,23 +2,31 @@
 
 #include <QCoreApplication>
 
+#include <cstdio>
+#include <cstring>
+
 namespace TQ {
 
 namespace {
 
-char const* const weightXName = "Weight-%1-%2X";
-char const* const weightYName = "Weight-%1-%2Y";
+char const* const weightXName = QT_TRANSLATE_NOOP("Parameter", "Weight-%1-%2X");
+char const* const weightYName = QT_TRANSLATE_NOOP("Parameter", "Weight-%1-%2Y");
 
-// Gives a default-built cell parameter the name and curve of a weight.
-void vMakeWeight(Prm::NumericParameter<float>& weight, char const* nameTemplate, int row, int column)
+// Gives a default-built cell parameter the name and curve of a weight. Filling in the templates with
+// arg() would cost most of the grid's construction, so the untranslated name is printed directly.
+void vMakeWeight(Prm::NumericParameter<float>& weight, char const* nameTemplate, QString const& shownTemplate,
+                 int row, int column)
 {
-    QByteArray const name = QString::fromLatin1(nameTemplate).arg(row).arg(column).toLatin1();
-    Prm::NumericParameter<float> const fresh(true, name.constData(), 0.0f, -100.0f, 100.0f,
-                                             Prm::InterpolationLinear, Prm::ExtrapolationHold);
+    char name[32];
+    std::snprintf(name, sizeof name, "Weight-%d-%d%c", row, column, nameTemplate[std::strlen(nameTemplate) - 1]);
+    Prm::NumericParameter<float> const fresh(true, name, 0.0f, -100.0f, 100.0f, Prm::InterpolationLinear,
+                                             Prm::ExtrapolationHold);
     weight.Prm::Parameter<float>::operator=(fresh);
     weight.vSetMinimum(fresh.minimum());
     weight.vSetMaximum(fresh.maximum());
-    weight.setDisplayName(QCoreApplication::translate("Parameter", nameTemplate).arg(row).arg(column));
+    // Untranslated, the display name is the script name, and the two share one text.
+    bool const bTranslated = shownTemplate != QLatin1String(nameTemplate);
+    weight.setDisplayName(bTranslated ? shownTemplate.arg(row).arg(column) : weight.qstrScriptName());
 }
 
 // Assigns a weight with its limits, as a parameter rather than as a numeric one.
@@ -33,10 +41,12 @@ void vAssignWeight(Prm::NumericParameter<float>& weight, Prm::NumericParameter<f
 
 WarperWeightGrid::WarperWeightGrid()
 {
+    QString const shownX = QCoreApplication::translate("Parameter", weightXName);
+    QString const shownY = QCoreApplication::translate("Parameter", weightYName);
     for (int row = 0; row < iSize; ++row) {
         for (int column = 0; column < iSize; ++column) {
-            vMakeWeight(cells[row][column].X, weightXName, row, column);
-            vMakeWeight(cells[row][column].Y, weightYName, row, column);
+            vMakeWeight(cells[row][column].X, weightXName, shownX, row, column);
+            vMakeWeight(cells[row][column].Y, weightYName, shownY, row, column);
         }
     }
 }
