@@ -21,9 +21,7 @@ namespace TQ {
 ///   child sets; it runs again in every copy, so a copy binds its own members.
 /// - Copy constructor: this base with the fixed name again (not the source's), copies of the members
 ///   (a moved-parameter handle shares its object with the source), then `init()`.
-/// - `operator=`: nothing on self-assignment; `Prm::ParameterSet::operator=` (both names), the members
-///   (a numeric parameter's own assignment is the parameter's plus its limits), `vListMovedParameters`
-///   again, then the virtual `setScriptName` with the source's script name.
+/// - `operator=`: `bAssignSet`, then whatever the set does beyond its members' own assignments.
 class ClipBoundParameterSet : public Prm::ParameterSet
 {
 public:
@@ -56,6 +54,22 @@ protected:
     static void vForgetClips(std::initializer_list<Prm::Parameter<unsigned int>*> clips, unsigned int clipId);
     /// `hide(bHide)` on each.
     static void vHide(std::initializer_list<Prm::ParameterWithoutType*> parameters, bool bHide);
+    /// The common assignment of a set `Set` whose members are gathered in `Members`: nothing on
+    /// self-assignment (false); else `Prm::ParameterSet::operator=` (both names), the members (a numeric
+    /// parameter's own assignment is the parameter's plus its limits; a moved-parameter handle then shares
+    /// the source's object), `moved` listed anew, and last the virtual `setScriptName` with the source's
+    /// script name (true).
+    template <class Members, class Set>
+    bool bAssignSet(Set const& other, std::initializer_list<MovedParameterHandle const*> moved)
+    {
+        if (&other == this)
+            return false;
+        Prm::ParameterSet::operator=(other);
+        static_cast<Members&>(static_cast<Set&>(*this)) = other;
+        vListMovedParameters(moved);
+        setScriptName(other.qstrScriptName());
+        return true;
+    }
     /// Makes `basicParameters` list exactly these moved parameters, in order. Call it from `init()` and
     /// again after assigning the handles, whose objects may have changed.
     void vListMovedParameters(std::initializer_list<MovedParameterHandle const*> moved);

@@ -14,11 +14,7 @@ TQ_ColourFilterParameterSet::TQ_ColourFilterParameterSet(TQ_ColourFilterParamete
 
 TQ_ColourFilterParameterSet& TQ_ColourFilterParameterSet::operator=(TQ_ColourFilterParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::ColourFilterParameters::operator=(other);
-    setScriptName(other.qstrScriptName());
+    bAssignSet<TQ::Table::ColourFilterParameters>(other, {});
     return *this;
 }
 

@@ -44,11 +44,7 @@ TQ_ColourParameterSet::TQ_ColourParameterSet(TQ_ColourParameterSet const& other)
 
 TQ_ColourParameterSet& TQ_ColourParameterSet::operator=(TQ_ColourParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::ColourParameters::operator=(other);
-    setScriptName(other.qstrScriptName());
+    bAssignSet<TQ::Table::ColourParameters>(other, {});
     return *this;
 }
 

@@ -13,11 +13,7 @@ TQ_InsertBlurParameterSet::TQ_InsertBlurParameterSet(TQ_InsertBlurParameterSet c
 
 TQ_InsertBlurParameterSet& TQ_InsertBlurParameterSet::operator=(TQ_InsertBlurParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::InsertBlurParameters::operator=(other);
-    setScriptName(other.qstrScriptName());
+    bAssignSet<TQ::Table::InsertBlurParameters>(other, {});
     return *this;
 }
 

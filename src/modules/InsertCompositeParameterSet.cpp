@@ -16,11 +16,7 @@ TQ_InsertCompositeParameterSet::TQ_InsertCompositeParameterSet(TQ_InsertComposit
 
 TQ_InsertCompositeParameterSet& TQ_InsertCompositeParameterSet::operator=(TQ_InsertCompositeParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::InsertCompositeParameters::operator=(other);
-    setScriptName(other.qstrScriptName());
+    bAssignSet<TQ::Table::InsertCompositeParameters>(other, {});
     return *this;
 }
 

@@ -13,11 +13,7 @@ TQ_InsertEdgeParameterSet::TQ_InsertEdgeParameterSet(TQ_InsertEdgeParameterSet c
 
 TQ_InsertEdgeParameterSet& TQ_InsertEdgeParameterSet::operator=(TQ_InsertEdgeParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::InsertEdgeParameters::operator=(other);
-    setScriptName(other.qstrScriptName());
+    bAssignSet<TQ::Table::InsertEdgeParameters>(other, {});
     return *this;
 }
 

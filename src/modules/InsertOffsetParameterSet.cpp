@@ -42,11 +42,7 @@ TQ_InsertOffsetParameterSet::TQ_InsertOffsetParameterSet(TQ_InsertOffsetParamete
 
 TQ_InsertOffsetParameterSet& TQ_InsertOffsetParameterSet::operator=(TQ_InsertOffsetParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::InsertOffsetParameters::operator=(other);
-    setScriptName(other.qstrScriptName());
+    bAssignSet<TQ::Table::InsertOffsetParameters>(other, {});
     return *this;
 }
 

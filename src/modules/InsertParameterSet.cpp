@@ -16,12 +16,7 @@ TQ_InsertParameterSet::TQ_InsertParameterSet(TQ_InsertParameterSet const& other)
 
 TQ_InsertParameterSet& TQ_InsertParameterSet::operator=(TQ_InsertParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::InsertParameters::operator=(other);
-    vListMovedParameters({&Render});
-    setScriptName(other.qstrScriptName());
+    bAssignSet<TQ::Table::InsertParameters>(other, {&Render});
     return *this;
 }
 

@@ -92,11 +92,7 @@ TQ_InsertROIParameterSet::TQ_InsertROIParameterSet(TQ_InsertROIParameterSet cons
 
 TQ_InsertROIParameterSet& TQ_InsertROIParameterSet::operator=(TQ_InsertROIParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::InsertROIParameters::operator=(other);
-    setScriptName(other.qstrScriptName());
+    bAssignSet<TQ::Table::InsertROIParameters>(other, {});
     return *this;
 }
 

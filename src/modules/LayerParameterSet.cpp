@@ -14,12 +14,7 @@ TQ_LayerParameterSet::TQ_LayerParameterSet(TQ_LayerParameterSet const& other)
 
 TQ_LayerParameterSet& TQ_LayerParameterSet::operator=(TQ_LayerParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::LayerParameters::operator=(other);
-    vListMovedParameters({&Hidden, &Locked});
-    setScriptName(other.qstrScriptName());
+    bAssignSet<TQ::Table::LayerParameters>(other, {&Hidden, &Locked});
     return *this;
 }
 

@@ -14,11 +14,7 @@ TQ_LuminanceEffectsParameterSet::TQ_LuminanceEffectsParameterSet(TQ_LuminanceEff
 
 TQ_LuminanceEffectsParameterSet& TQ_LuminanceEffectsParameterSet::operator=(TQ_LuminanceEffectsParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::LuminanceEffectsParameters::operator=(other);
-    setScriptName(other.qstrScriptName());
+    bAssignSet<TQ::Table::LuminanceEffectsParameters>(other, {});
     return *this;
 }
 

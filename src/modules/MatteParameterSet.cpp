@@ -13,12 +13,7 @@ TQ_MatteParameterSet::TQ_MatteParameterSet(TQ_MatteParameterSet const& other)
 
 TQ_MatteParameterSet& TQ_MatteParameterSet::operator=(TQ_MatteParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::MatteParameters::operator=(other);
-    vListMovedParameters({&Render});
-    setScriptName(other.qstrScriptName());
+    bAssignSet<TQ::Table::MatteParameters>(other, {&Render});
     return *this;
 }
 

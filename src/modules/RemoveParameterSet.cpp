@@ -17,15 +17,11 @@ TQ_RemoveParameterSet::TQ_RemoveParameterSet(TQ_RemoveParameterSet const& other)
 
 TQ_RemoveParameterSet& TQ_RemoveParameterSet::operator=(TQ_RemoveParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::RemoveParameters::operator=(other);
-    // A frame offset's own assignment leaves its container alone.
-    InputRangeMin.clipContainer = other.InputRangeMin.clipContainer;
-    InputRangeMax.clipContainer = other.InputRangeMax.clipContainer;
-    vListMovedParameters({&Render});
-    setScriptName(other.qstrScriptName());
+    if (bAssignSet<TQ::Table::RemoveParameters>(other, {&Render})) {
+        // A frame offset's own assignment leaves its container alone.
+        InputRangeMin.clipContainer = other.InputRangeMin.clipContainer;
+        InputRangeMax.clipContainer = other.InputRangeMax.clipContainer;
+    }
     return *this;
 }
 

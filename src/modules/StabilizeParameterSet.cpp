@@ -17,15 +17,11 @@ TQ_StabilizeParameterSet::TQ_StabilizeParameterSet(TQ_StabilizeParameterSet cons
 
 TQ_StabilizeParameterSet& TQ_StabilizeParameterSet::operator=(TQ_StabilizeParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::StabilizeParameters::operator=(other);
-    // A frame offset's own assignment leaves its container alone.
-    FirstFrameToStabilize.clipContainer = other.FirstFrameToStabilize.clipContainer;
-    LastFrameToStabilize.clipContainer = other.LastFrameToStabilize.clipContainer;
-    vListMovedParameters({&Render});
-    setScriptName(other.qstrScriptName());
+    if (bAssignSet<TQ::Table::StabilizeParameters>(other, {&Render})) {
+        // A frame offset's own assignment leaves its container alone.
+        FirstFrameToStabilize.clipContainer = other.FirstFrameToStabilize.clipContainer;
+        LastFrameToStabilize.clipContainer = other.LastFrameToStabilize.clipContainer;
+    }
     return *this;
 }
 

@@ -15,12 +15,7 @@ TQ_TrackingParameterSet::TQ_TrackingParameterSet(TQ_TrackingParameterSet const& 
 
 TQ_TrackingParameterSet& TQ_TrackingParameterSet::operator=(TQ_TrackingParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::TrackingParameters::operator=(other);
-    vListMovedParameters({&Render});
-    setScriptName(other.qstrScriptName());
+    bAssignSet<TQ::Table::TrackingParameters>(other, {&Render});
     return *this;
 }
 

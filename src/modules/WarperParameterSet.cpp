@@ -98,12 +98,7 @@ TQ_WarperParameterSet::TQ_WarperParameterSet(TQ_WarperParameterSet const& other)
 
 TQ_WarperParameterSet& TQ_WarperParameterSet::operator=(TQ_WarperParameterSet const& other)
 {
-    if (this == &other)
-        return *this;
-    Prm::ParameterSet::operator=(other);
-    TQ::Table::WarperParameters::operator=(other);
-    vListMovedParameters({&Render});
-    setScriptName(other.qstrScriptName());
+    bAssignSet<TQ::Table::WarperParameters>(other, {&Render});
     return *this;
 }
 

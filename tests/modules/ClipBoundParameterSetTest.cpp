@@ -58,12 +58,7 @@ public:
     ProbeSet(ProbeSet const& other) : ClipBoundParameterSet(QStringLiteral("Probe")), ProbeMembers(other) { init(); }
     ProbeSet& operator=(ProbeSet const& other)
     {
-        if (this == &other)
-            return *this;
-        Prm::ParameterSet::operator=(other);
-        ProbeMembers::operator=(other);
-        vListMovedParameters({&Render});
-        setScriptName(other.qstrScriptName());
+        bAssignSet<ProbeMembers>(other, {&Render});
         return *this;
     }
 
