@@ -1,5 +1,4 @@
 #pragma once
-#include "modules/ParameterTable.h"
 #include "modules/ColourFilterParameterSet.h"
 #include "modules/InsertBlurParameterSet.h"
 #include "modules/InsertCompositeParameterSet.h"
@@ -7,6 +6,7 @@
 #include "modules/InsertOffsetParameterSet.h"
 #include "modules/InsertROIParameterSet.h"
 #include "modules/LuminanceEffectsParameterSet.h"
+#include "modules/ParameterTable.h"
 #include "prm/NumericParameter.h"
 
 class TQ_BaseClipInfoContainer;

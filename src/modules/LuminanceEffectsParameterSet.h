@@ -1,6 +1,6 @@
 #pragma once
-#include "modules/ParameterTable.h"
 #include "modules/CopyDepartures.h"
+#include "modules/ParameterTable.h"
 #include "prm/NumericParameter.h"
 
 #include <QVector>

@@ -1,7 +1,7 @@
 #pragma once
 #include "gandalf/BSpline.h"
-#include "modules/ParameterTable.h"
 #include "modules/CopyDepartures.h"
+#include "modules/ParameterTable.h"
 #include "prm/NumericParameter.h"
 
 namespace TQ {
