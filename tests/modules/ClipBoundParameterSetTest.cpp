@@ -1,5 +1,5 @@
 #include "modules/ClipBoundParameterSet.h"
-#include "modules/CopyDepartures.h"
+#include "modules/TrackingParameterSet.h"
 #include "prm/Fixtures.h"
 
 #include <gtest/gtest.h>
@@ -40,76 +40,22 @@ TEST(ClipBoundParameterSet, ForgetClipResetsToTheDefaultAndAnnouncesOnlyARealCha
     }
 }
 
-/// The smallest set of the common shape: one clip reference, one moved parameter, one that assignment
-/// skips and one that is never copied.
-struct ProbeMembers {
-    Prm::Parameter<unsigned int> InputClipID{false, "InputClipID", 1u, Prm::InterpolationStep,
-                                             Prm::ExtrapolationHold};
-    ClipBoundParameterSet::MovedParameterHandle Render = ClipBoundParameterSet::newMovedParameter("Render");
-    TQ::KeptOnAssignment<Prm::Parameter<bool>> Kept{false, "Kept", false, Prm::InterpolationStep,
-                                                    Prm::ExtrapolationHold};
-    TQ::NotCopied<Prm::Parameter<bool>> Fresh;
-};
-
-class ProbeSet : public ClipBoundParameterSet, public ProbeMembers
+TEST(ClipBoundParameterSet, AMovedParameterLivesWhileAnySetHoldsItAndIsFreedOnce)
 {
-public:
-    ProbeSet() : ClipBoundParameterSet(QStringLiteral("Probe")) { init(); }
-    ProbeSet(ProbeSet const& other) : ClipBoundParameterSet(QStringLiteral("Probe")), ProbeMembers(other) { init(); }
-    ProbeSet& operator=(ProbeSet const& other)
-    {
-        bAssignSet<ProbeMembers>(other, {&Render});
-        return *this;
-    }
-
-private:
-    void init()
-    {
-        vAddParameters({&InputClipID, &Kept});
-        vListMovedParameters({&Render});
-    }
-};
-
-TEST(ClipBoundParameterSet, MovedParametersAreSharedByCopiesAndFreedOnceThroughAssignments)
-{
-    auto* source = new ProbeSet;
-    source->setScriptName(QStringLiteral("Renamed"));
-    source->Kept.vSetValue(true, 0.0f);
-    source->Fresh.vSetValue(true, 0.0f);
-    ProbeSet copy(*source);
-    EXPECT_EQ(copy.qstrScriptName(), QStringLiteral("Probe"));
-    EXPECT_EQ(copy.Render, source->Render);
-    EXPECT_TRUE(copy.Kept.staticValue());
-    EXPECT_FALSE(copy.Fresh.staticValue());
-    EXPECT_EQ(copy.parameterList(), (QVector<Prm::ParameterWithoutType*>{&copy.InputClipID, &copy.Kept}));
-
-    ProbeSet target;
+    auto* source = new TQ_TrackingParameterSet;
+    TQ_TrackingParameterSet const copy(*source);
+    TQ_TrackingParameterSet target;
     Prm::MovedParameter const* const ownBefore = target.Render.get();
     target = *source; // the target's own moved parameter has no other holder and goes now
     EXPECT_NE(target.Render.get(), ownBefore);
-    EXPECT_EQ(target.basicParameterList(), QVector<Prm::BasicParameter*>{source->Render.get()});
-    EXPECT_EQ(target.qstrScriptName(), QStringLiteral("Renamed"));
-    EXPECT_FALSE(target.Kept.staticValue());
-    EXPECT_FALSE(target.Fresh.staticValue());
-    ProbeSet& alias = target;
+    TQ_TrackingParameterSet& alias = target;
     target = alias;
     EXPECT_EQ(target.Render.use_count(), 3);
 
     delete source; // the moved parameter lives on in the two others, and still takes its old line
     EXPECT_EQ(copy.Render.use_count(), 2);
-    EXPECT_TRUE(copy.bStreamIn(QStringLiteral("Render.value=1")));
+    EXPECT_EQ(target.basicParameterList(), QVector<Prm::BasicParameter*>{copy.Render.get()});
     EXPECT_TRUE(target.bStreamIn(QStringLiteral("Render.value=1")));
-}
-
-TEST(ClipBoundParameterSet, BaseOperationsDoNothing)
-{
-    ProbeSet set;
-    set.InputClipID.vSetValue(5, 0.0f);
-    ChangeRecorder recorder(set.InputClipID);
-    set.removeReferencesToClip(5);
-    set.rescale(2.0f, 2.0f);
-    EXPECT_EQ(set.InputClipID.staticValue(), 5u);
-    EXPECT_TRUE(recorder.events.empty());
 }
 
 } // namespace
