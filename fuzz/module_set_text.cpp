@@ -3,11 +3,14 @@
 // text must be survived without undefined behaviour.
 #include "clip/BaseClipInfo.h"
 #include "clip/BaseClipInfoContainer.h"
+#include "modules/ColourParameterSet.h"
+#include "modules/InsertParameterSet.h"
 #include "modules/LayerParameterSet.h"
 #include "modules/MatteParameterSet.h"
 #include "modules/RemoveParameterSet.h"
 #include "modules/StabilizeParameterSet.h"
 #include "modules/TrackingParameterSet.h"
+#include "modules/WarperParameterSet.h"
 
 #include <QString>
 #include <QStringList>
@@ -32,8 +35,7 @@ void vExercise(S& set, QStringList const& lines)
     copy = set;
     copy.rescale(2.0f, 0.5f);
     copy.removeReferencesToClip(0);
-    for (Prm::ParameterWithoutType* parameter : copy.parameterList())
-        parameter->valueString(0.0f, nullptr);
+    copy.forEachParameter([](Prm::ParameterWithoutType* parameter) { parameter->valueString(0.0f, nullptr); }, true);
     QString written;
     QTextStream out(&written);
     copy.bStreamOut(out, QString(), true);
@@ -57,5 +59,16 @@ extern "C" int LLVMFuzzerTestOneInput(uint8_t const* data, size_t size)
     vExercise(matte, lines);
     vExercise(remove, lines);
     vExercise(stabilize, lines);
+    // The insert set reaches its seven children; the colour set tells its four same-named bands apart by
+    // the order of their lines.
+    TQ_InsertParameterSet insert(&clips);
+    TQ_WarperParameterSet warper;
+    TQ_ColourParameterSet colour;
+    vExercise(insert, lines);
+    vExercise(warper, lines);
+    vExercise(colour, lines);
+    for (Prm::NumericParameterWithoutType* roi : {static_cast<Prm::NumericParameterWithoutType*>(&insert.ROI.ROIX1),
+                                                  static_cast<Prm::NumericParameterWithoutType*>(&insert.ROI.ROIY2)})
+        roi->value2DisplayAsDouble(roi->valueAsDouble(0.0f, nullptr), 0.0f);
     return 0;
 }

@@ -1,6 +1,8 @@
 #pragma once
 #include "prm/ParameterWithoutType.h"
 
+#include <QVector>
+
 namespace TQ {
 
 /// A parameter member that a set's copy constructor copies but its assignment leaves as it was in the
@@ -22,6 +24,28 @@ public:
     NotCopied() = default;
     NotCopied(NotCopied const&) : Prm::ParameterWithoutType(), P() {}
     NotCopied& operator=(NotCopied const&) { return *this; }
+};
+
+/// A container member that a copy starts empty and an assignment leaves as it was in the target: what it
+/// holds belongs to the one set object that filled it.
+template <class C>
+class EmptyOnCopy : public C
+{
+public:
+    EmptyOnCopy() = default;
+    EmptyOnCopy(EmptyOnCopy const&) : C() {}
+    EmptyOnCopy& operator=(EmptyOnCopy const&) { return *this; }
+};
+
+/// Parameters that a set holds on the heap and deletes with itself, through their virtual destructor.
+/// A copy starts empty and an assignment leaves them as they were, so that each is deleted once.
+class OwnedParameters : public EmptyOnCopy<QVector<Prm::ParameterWithoutType*>>
+{
+public:
+    OwnedParameters() = default;
+    OwnedParameters(OwnedParameters const&) = default;
+    OwnedParameters& operator=(OwnedParameters const&) = default;
+    ~OwnedParameters() { qDeleteAll(*this); }
 };
 
 } // namespace TQ

@@ -4,6 +4,8 @@
 #include "clip/BaseClipInfo.h"
 #include "clip/BaseClipInfoContainer.h"
 #include "clip/FrameOffsetParameter.h"
+#include "modules/InsertOffsetParameterSet.h"
+#include "modules/InsertROIParameterSet.h"
 #include "prm/NumericParameter.h"
 
 #include <QString>
@@ -24,15 +26,22 @@ struct TableRow {
     QString name, kind, keyed, initial, minimum, maximum, interpolation, extrapolation, displayName, hidden;
 };
 
-/// A set's data file: rows plus the set's name, moved parameters, forgotten clips, rescaled parameters and
-/// the parameters its assignment keeps.
+/// A set's data file: rows plus the set's name, moved parameters, forgotten clips, rescaled parameters,
+/// the parameters its assignment keeps (a trailing * matches any ending; "clipContainer" for the
+/// container pointer) and its child sets. Rows whose name holds %1 and %2 stand for the 17 x 17 weight
+/// grid, row by row, column by column, in their order within a cell.
 struct SetTable {
     QString name;
-    QStringList moved, forgets, rescales, kept;
+    QStringList moved, forgets, rescales, kept, children;
     /// Parameters whose hidden flag `init()` sets, so that a copy does not take it from its source; "*"
     /// for all.
     QStringList flagsByInit;
     QVector<TableRow> rows;
+
+private:
+    QVector<TableRow> grid;
+
+public:
 
     explicit SetTable(QString const& text)
     {
@@ -56,9 +65,29 @@ struct SetTable {
                 kept = trimmed;
             else if (word == "flags-by-init")
                 flagsByInit = trimmed;
+            else if (word == "children")
+                children = trimmed;
             else
-                rows << row(line);
+                (line.contains("%1") ? grid : rows) << row(line);
         }
+        for (int r = 0; r < 17 && !grid.isEmpty(); ++r) {
+            for (int c = 0; c < 17; ++c) {
+                for (TableRow cell : grid) {
+                    cell.name = cell.name.arg(r).arg(c);
+                    rows << cell;
+                }
+            }
+        }
+    }
+
+    /// Whether assignment leaves `member` as it was.
+    bool bKept(QString const& member) const
+    {
+        for (QString const& entry : kept) {
+            if (entry == member || (entry.endsWith('*') && member.startsWith(entry.chopped(1))))
+                return true;
+        }
+        return false;
     }
 
 private:
@@ -88,6 +117,11 @@ QString qstrOf(T value)
     return QString::number(static_cast<double>(value), 'g', 17);
 }
 
+inline QString qstrOf(QString const& value)
+{
+    return '"' + value + '"';
+}
+
 template <class T>
 T tFromDouble(double value)
 {
@@ -105,7 +139,19 @@ inline double dFromCell(QString const& cell)
         return 0;
     if (cell.endsWith("largest double"))
         return (cell.startsWith('-') ? -1 : 1) * std::numeric_limits<double>::max();
+    if (cell.endsWith("largest float"))
+        return (cell.startsWith('-') ? -1 : 1) * double(std::numeric_limits<float>::max());
     return cell.toDouble();
+}
+
+/// A cell as a value of `T`: a text cell is quoted in the table.
+template <class T>
+T tFromCell(QString const& cell)
+{
+    if constexpr (std::is_same<T, QString>::value)
+        return cell.mid(1, cell.size() - 2);
+    else
+        return tFromDouble<T>(dFromCell(cell));
 }
 
 template <class T>
@@ -129,7 +175,8 @@ bool bVisit(Prm::ParameterWithoutType& parameter, F&& visit)
 #define TQ_TRY_TYPE(T) as(dynamic_cast<Prm::Parameter<T>*>(&parameter), #T) ||
     return TQ_TRY_TYPE(bool) TQ_TRY_TYPE(unsigned char) TQ_TRY_TYPE(int) TQ_TRY_TYPE(unsigned int)
         TQ_TRY_TYPE(float) TQ_TRY_TYPE(double) TQ_TRY_TYPE(_TrackModel) TQ_TRY_TYPE(TQ_BlendMode)
-        TQ_TRY_TYPE(TQ_MATTE_SUBTYPE) TQ_TRY_TYPE(TQ_REMOVESOURCE_MODE) TQ_TRY_TYPE(TQ_ILLUMINATION_MODEL) false;
+        TQ_TRY_TYPE(TQ_MATTE_SUBTYPE) TQ_TRY_TYPE(TQ_REMOVESOURCE_MODE) TQ_TRY_TYPE(TQ_ILLUMINATION_MODEL)
+            TQ_TRY_TYPE(TQ_FILL_ALGORITHM) TQ_TRY_TYPE(TQ_LUMINANCE_MODEL) TQ_TRY_TYPE(QString) false;
 #undef TQ_TRY_TYPE
 }
 
@@ -140,6 +187,10 @@ inline QStringList factsOf(Prm::ParameterWithoutType& parameter)
     bool const bKnown = bVisit(parameter, [&](auto const& typed, QString const& type) {
         auto const* numeric = numericOf(typed);
         QString const kind = dynamic_cast<PrmFrameOffset const*>(&typed) ? QString("PrmFrameOffset")
+                             : dynamic_cast<TQ::ROIParameter const*>(&typed)
+                                 ? QString("TQ_InsertROIParameterSet::ROIParameter")
+                             : dynamic_cast<TQ::RotationParameter const*>(&typed)
+                                 ? QString("TQ_InsertOffsetParameterSet::RotationParameter")
                              : numeric ? "NumericParameter<" + type + ">"
                                        : "Parameter<" + type + ">";
         facts << kind << (typed.isKeyframed() ? "yes" : "no") << qstrOf(typed.staticValue())
@@ -171,14 +222,14 @@ inline QStringList expectedFacts(Prm::ParameterWithoutType& parameter, TableRow 
     QStringList facts;
     bVisit(parameter, [&](auto const& typed, QString const&) {
         using T = std::decay_t<decltype(typed.staticValue())>;
-        QString const initial = qstrOf(tFromDouble<T>(dFromCell(row.initial)));
+        QString const initial = qstrOf(tFromCell<T>(row.initial));
         auto const rule = [](QString const& cell) {
             return QString::number(cell == "linear" ? 2 : cell == "step" || cell == "hold" ? 1 : 0);
         };
         facts << row.kind << row.keyed << initial << initial << rule(row.interpolation) << rule(row.extrapolation)
               << rule(row.extrapolation);
         if (!row.minimum.isEmpty())
-            facts << qstrOf(tFromDouble<T>(dFromCell(row.minimum))) << qstrOf(tFromDouble<T>(dFromCell(row.maximum)));
+            facts << qstrOf(tFromCell<T>(row.minimum)) << qstrOf(tFromCell<T>(row.maximum));
     });
     return facts << (row.displayName.isEmpty() ? row.name : row.displayName) << row.hidden;
 }
@@ -190,6 +241,8 @@ T tPick(Prm::Parameter<T> const& parameter, int step)
     T const initial = parameter.defaultValue();
     if constexpr (std::is_same<T, bool>::value)
         return step % 2 ? !initial : initial;
+    else if constexpr (std::is_same<T, QString>::value)
+        return QString("text %1").arg(step);
     else if constexpr (std::is_enum<T>::value)
         return static_cast<T>(step);
     else {
