@@ -1,6 +1,6 @@
 #include "modules/ColourParameterSet.h"
 
-#include "prm/TextField.h"
+#include "prm/text/ParameterLine.h"
 
 TQ_ColourParams::TQ_ColourParams() : Prm::ParameterSet(QStringLiteral("ColourBand"), nullptr)
 {

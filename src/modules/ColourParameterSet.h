@@ -1,7 +1,7 @@
 #pragma once
 #include "modules/ParameterTable.h"
 #include "prm/NumericParameter.h"
-#include "prm/ParameterSet.h"
+#include "prm/set/ParameterSet.h"
 
 namespace TQ::Table {
 

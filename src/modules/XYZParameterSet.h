@@ -1,7 +1,7 @@
 #pragma once
 #include "gandalf/Matrix.h"
 #include "prm/NumericParameter.h"
-#include "prm/ParameterSet.h"
+#include "prm/set/ParameterSet.h"
 
 /// A keyframed point of a three-dimensional scene: three float parameters "x", "y" and "z", unbounded,
 /// holding their ends, with no default interpolation (whoever keys them chooses the kind of each key).

@@ -1,7 +1,7 @@
 #include "ModuleSetTable.h"
 #include "modules/ColourParameterSet.h"
 #include "modules/InsertParameterSet.h"
-#include "prm/ParameterTextDocument.h"
+#include "prm/text/ParameterTextDocument.h"
 
 #include <gtest/gtest.h>
 

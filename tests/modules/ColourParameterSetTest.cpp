@@ -2,7 +2,7 @@
 #include "modules/ColourParameterSet.h"
 #include "modules/LuminanceEffectsParameterSet.h"
 #include "prm/Fixtures.h"
-#include "prm/ParameterTextDocument.h"
+#include "prm/text/ParameterTextDocument.h"
 
 TEST(ColourParameterSet, BandsExtrapolateAlongTheSlopeWithinTheirLimits)
 {

@@ -1,5 +1,5 @@
 #include "modules/Layer3DParameterSet.h"
-#include "prm/ParameterTextDocument.h"
+#include "prm/text/ParameterTextDocument.h"
 
 #include <gtest/gtest.h>
 

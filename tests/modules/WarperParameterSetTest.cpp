@@ -1,6 +1,6 @@
 #include "modules/WarperParameterSet.h"
 #include "prm/Fixtures.h"
-#include "prm/ParameterTextDocument.h"
+#include "prm/text/ParameterTextDocument.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "modules/Camera3DParameterSet.h"
 #include "modules/XYZParameterSet.h"
-#include "prm/ParameterTextDocument.h"
+#include "prm/text/ParameterTextDocument.h"
 
 #include <gtest/gtest.h>
 
