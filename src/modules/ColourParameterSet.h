@@ -60,13 +60,7 @@ public:
 
     /// Forgets "InputClipID", then "OutputClipID".
     void removeReferencesToClip(unsigned int clipId) override;
-    /// A band's line to the band whose block it continues; any other line as the base reads it.
-    bool bStreamIn(QString const& line) override;
 
 private:
     void init();
-
-    // Reading state of the bands' blocks; each set object starts its own.
-    int iReadingBand = 0;
-    int iLastBandLine = -1;
 };
