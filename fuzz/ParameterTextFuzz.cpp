@@ -4,6 +4,7 @@
 #include "prm/NumericParameter.h"
 #include "prm/set/ParameterSet.h"
 #include "prm/text/ParameterTextDocument.h"
+#include "support/EnumerationParameters.h"
 #include "prm/basic/VirtualParameter.h"
 
 #include <QString>
