@@ -63,6 +63,7 @@
 // --- clip
 #include "clip/BaseClipInfo.h"
 #include "clip/BaseClipInfoContainer.h"
+#include "clip/ClipBoundParameterSet.h"
 #include "clip/ClipInfo.h"
 #include "clip/ColourspaceParameters.h"
 #include "clip/FrameOffsetParameter.h"

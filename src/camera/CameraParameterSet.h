@@ -2,7 +2,7 @@
 #include "bsc/Hash.h"
 #include "camera/Camera.h"
 #include "camera/LineParameters.h"
-#include "modules/ClipBoundParameterSet.h"
+#include "clip/ClipBoundParameterSet.h"
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
 #include "camera/CameraTypeParameter.h"

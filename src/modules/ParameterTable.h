@@ -3,7 +3,7 @@
 /// order of the text, e.g.
 ///     Numeric<double> Scale{Keyed, "Scale", 1.0, -LargestDouble, LargestDouble, Linear, Hold};
 /// The member structs of the sets live in this namespace so that the rows read without qualification.
-#include "modules/ClipBoundParameterSet.h"
+#include "clip/ClipBoundParameterSet.h"
 #include "prm/NumericParameter.h"
 #include "support/EnumerationParameters.h"
 

@@ -1,4 +1,4 @@
-#include "modules/ClipBoundParameterSet.h"
+#include "clip/ClipBoundParameterSet.h"
 
 #include "prm/ParameterChange.h"
 
