@@ -1,127 +1,286 @@
-// An example host: what an application's interface or engine does with the library.
+// The example host: the road of one value, from a project file to warped points.
 //
-// It keeps a module's settings in a parameter set, animates them with undoable edits, saves the set as
-// text and loads it into a fresh set, shows what a damaged project line does, and asks the clip and
-// colour side for a film back, pulldown arithmetic and a lookup table.
+//   tq_example_host [output-folder] [project]
+//
+// It reads a project (by default examples/project/shot.tqp), hands each line to the set its first word
+// names, asks the lens set for the camera of every frame of the clip, warps the frame's corners and a
+// grid through a frame warp, makes one undoable edit, saves and reloads the project, and writes
+// report.txt, curve.svg and distortion-grid.svg into the output folder (by default
+// build/example-output). The report is printed as well.
+#include "SvgPicture.h"
 #include "tq.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QTextStream>
 
+#include <algorithm>
 #include <cstdio>
-#include <string>
 
 namespace {
 
-/// A module's settings: how a host declares its own set. Parameters are members, registered in `init`
-/// in the order of the text; the copy constructor registers the copies again.
-class GradeSettings : public Prm::ParameterSet {
+/// The host owns its clips and lends them to the library by id; this project has one clip, id 1.
+class Clips : public TQ_BaseClipInfoContainer {
 public:
-    GradeSettings() : Prm::ParameterSet("Grade", nullptr),
-        Gain(true, "Gain", 1.0f, 0.0f, 4.0f, Prm::InterpolationLinear, Prm::ExtrapolationHold),
-        Offset(true, "Offset", 0.0, -1.0, 1.0, Prm::InterpolationBezier, Prm::ExtrapolationHold),
-        Label(false, "Label", QString("main grade"), Prm::InterpolationStep, Prm::ExtrapolationHold),
-        Bypass(true, "Bypass", false, Prm::InterpolationStep, Prm::ExtrapolationHold)
-    {
-        init();
-    }
-
-    Prm::NumericParameter<float> Gain;
-    Prm::NumericParameter<double> Offset;
-    Prm::Parameter<QString> Label;
-    Prm::Parameter<bool> Bypass;
-
-private:
-    void init()
-    {
-        addParameter(&Gain);
-        addParameter(&Offset);
-        addParameter(&Label);
-        addParameter(&Bypass);
-    }
+    TQ_BaseClipInfo* baseClipInfo(unsigned int clipId) override { return clipId == 1 ? &clip : nullptr; }
+    TQ_BaseClipInfo clip;
 };
 
-void vPrintCurve(char const* title, GradeSettings const& set)
+/// Everything a project holds: one root set per first word of a line ("Core", "Camera", "Track", "Warp").
+struct Project {
+    Project() { warp.setScriptName(QStringLiteral("Warp")); } // a frame warp has no name of its own
+
+    QVector<Prm::ParameterSet*> roots() { return {&clips.clip, &lens, &tracking, &warp}; }
+
+    Clips clips;
+    TQ_CameraParameterSet lens;
+    TQ_TrackingParameterSet tracking;
+    TQ::ParameterisedFrameWarp warp;
+};
+
+struct LoadResult {
+    QMap<QString, int> linesPerSet;
+    QStringList unread; // "line N: text"
+};
+
+/// Offers each line of `text` to the root set named by its first word, without that word. A line that
+/// no set takes is reported with its number; it costs nothing else, since every line stands alone.
+LoadResult load(Project& project, QString const& text)
 {
-    std::printf("%s\n  frame   Gain   Offset\n", title);
-    for (float frame = 0; frame <= 40; frame += 5)
-        std::printf("  %5.0f  %5.3f  %7.4f\n", frame, set.Gain.value(frame, nullptr),
-                    set.Offset.value(frame, nullptr));
+    LoadResult result;
+    QStringList const lines = text.split(QLatin1Char('\n'));
+    for (int i = 0; i < lines.size(); ++i) {
+        QString const line = lines[i].trimmed();
+        if (line.isEmpty())
+            continue;
+        QString const root = line.section(QLatin1Char('.'), 0, 0);
+        bool bTaken = false;
+        for (Prm::ParameterSet* set : project.roots()) {
+            if (set->qstrScriptName() == root) {
+                bTaken = set->bStreamIn(line.mid(root.size() + 1));
+                break;
+            }
+        }
+        if (bTaken)
+            ++result.linesPerSet[root];
+        else
+            result.unread << QStringLiteral("line %1: %2").arg(i + 1).arg(line);
+    }
+    return result;
 }
 
-void vAnimate(GradeSettings& set)
+QString save(Project& project)
 {
-    // Every ...Command call adds one edit; nothing changes until the host runs the composite.
+    QString text;
+    QTextStream out(&text);
+    for (Prm::ParameterSet* set : project.roots())
+        Prm::ParameterTextDocument(*set).bWrite(out);
+    out.flush();
+    return text;
+}
+
+/// The warp of `frame`: the lens-free camera takes a pixel to a ray, `homography` moves the ray, and the
+/// lens camera of that frame puts it back on the image, distorted.
+TQ::FrameWarp frameWarp(Project const& project, unsigned int frame, Gan_Matrix33 const& homography)
+{
+    TQ_BaseClipInfo const& clip = project.clips.clip;
+    TQ::Camera straight = project.lens.getCameraDefinition(frame);
+    straight.distortionActive = false;
+    TQ::FrameWarp warp;
+    warp.vSetAttributes(1, -1, 0, 0, true, straight.toGanCamera(frame, clip), nullptr, homography, true,
+                        project.lens.getCamera(frame, &clip), nullptr);
+    return warp;
+}
+
+QPointF warped(TQ::FrameWarp const& warp, QPointF const& p)
+{
+    double x = p.x(), y = p.y();
+    warp.vWarpPoint(x, y);
+    return {x, y};
+}
+
+QString number(double d, int iDecimals = 4)
+{
+    return QString::number(d, 'f', iDecimals);
+}
+
+/// Table of the lens values and the Gandalf camera of every eighth frame and the last one.
+void vReportCameras(Project const& project, QTextStream& report)
+{
+    TQ_BaseClipInfo const& clip = project.clips.clip;
+    unsigned int const uiLast = clip.getClipLength() - 1;
+    report << "frame  FocalDistance  RadialK1         Fx         Fy        X0        Y0\n";
+    for (unsigned int frame = 0; frame <= uiLast; ++frame) {
+        // Every frame is asked for, as an engine would; the cache keeps one camera per distinct lens.
+        Gan_Camera const camera = project.lens.getCamera(frame, &clip);
+        if (frame % 8 != 0 && frame != uiLast)
+            continue;
+        report << QStringLiteral("%1  %2  %3  %4  %5  %6  %7\n")
+                      .arg(frame, 5)
+                      .arg(number(project.lens.FocalDistance.value(float(frame), nullptr)), 13)
+                      .arg(number(project.lens.RadialK1.value(float(frame), nullptr)), 8)
+                      .arg(number(camera.fx), 9)
+                      .arg(number(camera.fy), 9)
+                      .arg(number(camera.x0, 2), 8)
+                      .arg(number(camera.y0, 2), 8);
+    }
+    report << project.lens.cameras.size() << " cameras cached for " << uiLast + 1 << " frames.\n";
+}
+
+void vReportCorners(Project const& project, unsigned int frame, QTextStream& report)
+{
+    TQ::FrameWarp keyed;
+    project.warp.populateFrameWarp(keyed, float(frame));
+    Gan_Matrix33 const& h = keyed.tHomography;
+    report << "Homography at frame " << frame << ": [" << h.xx << " " << h.xy << " " << h.xz << "; " << h.yx
+           << " " << h.yy << " " << h.yz << "; " << h.zx << " " << h.zy << " " << h.zz << "]\n";
+    TQ::FrameWarp const warp = frameWarp(project, frame, h);
+    double const w = project.clips.clip.FrameWidth, hgt = project.clips.clip.FrameHeight;
+    for (QPointF const& corner : {QPointF(0, 0), QPointF(w, 0), QPointF(0, hgt), QPointF(w, hgt)}) {
+        QPointF const p = warped(warp, corner);
+        report << "corner (" << corner.x() << ", " << corner.y() << ") -> (" << number(p.x()) << ", "
+               << number(p.y()) << ")\n";
+    }
+}
+
+/// "RadialK1" over the clip, its keys marked.
+bool bDrawCurve(Prm::NumericParameter<float> const& parameter, unsigned int uiLength, QString const& path)
+{
+    double const left = 70, top = 40, width = 560, height = 260;
+    float lo = parameter.value(0.0f, nullptr), hi = lo;
+    for (float t = 0; t <= uiLength - 1; t += 0.25f) {
+        lo = std::min(lo, parameter.value(t, nullptr));
+        hi = std::max(hi, parameter.value(t, nullptr));
+    }
+    float const pad = std::max(0.1f * (hi - lo), 1e-3f);
+    lo -= pad;
+    hi += pad;
+    auto const at = [&](double t, double v) {
+        return QPointF(left + width * t / (uiLength - 1), top + height * (hi - v) / (hi - lo));
+    };
+    SvgPicture svg(660, 340);
+    svg.vText({left, 24}, parameter.qstrScriptName() + QStringLiteral(" over frames 0 to %1").arg(uiLength - 1));
+    svg.vPolyline({at(0, hi), at(0, lo), at(uiLength - 1, lo)}, QStringLiteral("black"), 1);
+    for (unsigned int frame = 0; frame < uiLength; frame += 8)
+        svg.vText(at(frame, lo) + QPointF(0, 18), QString::number(frame), QStringLiteral("middle"));
+    for (int i = 0; i <= 4; ++i) {
+        double const v = lo + (hi - lo) * i / 4;
+        svg.vText(at(0, v) + QPointF(-6, 4), number(v, 3), QStringLiteral("end"));
+    }
+    QVector<QPointF> curve;
+    for (float t = 0; t <= uiLength - 1; t += 0.25f)
+        curve << at(t, parameter.value(t, nullptr));
+    svg.vPolyline(curve, QStringLiteral("#1f5fbf"), 2);
+    for (unsigned int i = 0; i < parameter.keyframeCount(); ++i) {
+        float const t = parameter.keyframeTime(i);
+        svg.vDot(at(t, parameter.value(t, nullptr)), 5, QStringLiteral("#d0402a"));
+    }
+    return svg.bSave(path);
+}
+
+/// A straight grid over the frame (grey) and the same grid through the lens of `frame` (blue).
+bool bDrawDistortionGrid(Project const& project, unsigned int frame, QString const& path)
+{
+    double const w = project.clips.clip.FrameWidth, h = project.clips.clip.FrameHeight;
+    double const scale = 600 / w, margin = 30;
+    TQ::FrameWarp const lensOnly = frameWarp(project, frame, gan_mat33_ident_s());
+    SvgPicture svg(int(w * scale + 2 * margin), int(h * scale + 2 * margin + 20));
+    svg.vText({margin, 22}, QStringLiteral("Lens distortion at frame %1 (RadialK1 %2)")
+                                .arg(frame).arg(number(project.lens.RadialK1.value(float(frame), nullptr), 3)));
+    auto const draw = [&](QPointF from, QPointF to) {
+        QVector<QPointF> straight, bent;
+        for (int i = 0; i <= 32; ++i) {
+            QPointF const p = from + (to - from) * (i / 32.0);
+            straight << p * scale + QPointF(margin, margin + 20);
+            bent << warped(lensOnly, p) * scale + QPointF(margin, margin + 20);
+        }
+        svg.vPolyline(straight, QStringLiteral("#bbbbbb"), 1);
+        svg.vPolyline(bent, QStringLiteral("#1f5fbf"), 1.5);
+    };
+    for (int i = 0; i <= 16; ++i)
+        draw({w * i / 16, 0}, {w * i / 16, h});
+    for (int i = 0; i <= 9; ++i)
+        draw({0, h * i / 9}, {w, h * i / 9});
+    return svg.bSave(path);
+}
+
+/// An undoable edit: nothing changes until the host runs the composite, and undo gives the value back.
+void vReportEdit(Project& project, QTextStream& report)
+{
+    auto& k1 = project.lens.RadialK1;
+    float const before = k1.value(30.0f, nullptr);
     Bsc::CompositeCommand edits;
-    set.Gain.vSetValueCommand(0.5f, 0.0f, edits);
-    set.Gain.vSetValueCommand(2.0f, 20.0f, edits);
-    set.Gain.vSetValueCommand(9.0f, 30.0f, edits); // clamped to the maximum of 4 when read
-    set.Offset.vSetValueCommand(-0.25, 10.0f, edits);
-    set.Offset.vSetValueCommand(0.25, 30.0f, edits);
+    k1.vSetValueCommand(-0.2f, 30.0f, edits);
     edits.doIt();
-    vPrintCurve("After the edits:", set);
-
+    float const edited = k1.value(30.0f, nullptr);
     edits.undoIt();
-    std::printf("Undone: %d Gain keys, Gain at frame 20 = %.3f\n", set.Gain.keyframeCount(),
-                set.Gain.value(20.0f, nullptr));
-    edits.doIt();
-    std::printf("Redone: %d Gain keys\n\n", set.Gain.keyframeCount());
+    report << "Undoable edit: RadialK1 key -0.2 at frame 30: " << number(before) << " -> " << number(edited)
+           << ", undone -> " << number(k1.value(30.0f, nullptr)) << "\n";
 }
 
-void vSaveAndLoad(GradeSettings& set)
+void vReportSaveAndReload(Project& project, QString const& path, QTextStream& report)
 {
-    Prm::ParameterTextDocument const writer(set);
-    QString const text = writer.qstrWrite();
-    std::printf("Saved text:\n%s\n", qPrintable(text));
-
-    GradeSettings loaded;
-    Prm::ParameterTextDocument reader(loaded);
-    int const taken = reader.iRead(text);
-    std::printf("Loaded %d lines; Gain at frame 25 = %.3f (saved set: %.3f)\n\n", taken,
-                loaded.Gain.value(25.0f, nullptr), set.Gain.value(25.0f, nullptr));
-
-    // A damaged project: a key line cut short (its key loads, its handles are logged as lost), a
-    // misspelt parameter and a line that names nothing. The rest still loads.
-    QString damaged = text;
-    damaged.replace("BezierKey( 10, -0.25, 2, 0.05, -2, -0.05 )", "BezierKey( 10, -0.25, 2 )");
-    damaged.replace(".Label", ".Lable");
-    damaged += "Grade.Nothing.value=1\n";
-    GradeSettings repaired;
-    Prm::ParameterTextDocument damagedReader(repaired);
-    damagedReader.iRead(damaged);
-    std::printf("Damaged text: %d lines not taken\n", int(damagedReader.unreadLines().size()));
-    for (auto const& line : damagedReader.unreadLines())
-        std::printf("  line %d: %s\n", line.iLineNumber, qPrintable(line.qstrText));
-    std::printf("  Gain at frame 25 still %.3f; Offset keys: %d\n\n", repaired.Gain.value(25.0f, nullptr),
-                repaired.Offset.keyframeCount());
-}
-
-void vDescribeClip()
-{
-    TQ_BaseClipInfo clip;
-    clip.FrameWidth = 1920;
-    clip.FrameHeight = 1080;
-    clip.setFilmType(TQ_FilmTypeFactory::bestMatchForSize(QSize(1920, 1080), false));
-    clip.setNumImageFilesInClip(100);
-    std::printf("Clip: film back \"%s\", pixel aspect %.4f, %u frames from 100 files\n",
-                qPrintable(clip.getFilmType().name), clip.PixelAspectRatio, clip.getClipLength());
-
-    unsigned char gamma[256];
-    if (gbCreate8BitGammaLookup(8, 2.2f, gamma, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr))
-        std::printf("Gamma 2.2 table: 0->%d 64->%d 128->%d 255->%d\n", gamma[0], gamma[64], gamma[128],
-                    gamma[255]);
-    std::printf("\n");
+    QString const text = save(project);
+    QFile file(path);
+    bool const bSaved = file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(text.toUtf8()) >= 0;
+    Project reloaded;
+    LoadResult const again = load(reloaded, text);
+    report << "Saved " << text.count(QLatin1Char('\n')) << " lines to " << (bSaved ? path : "(nowhere)")
+           << "; reloaded with " << again.unread.size() << " lines not read, RadialK1 at frame 30 "
+           << number(reloaded.lens.RadialK1.value(30.0f, nullptr)) << "\n";
 }
 
 } // namespace
 
-int main()
+int main(int argc, char** argv)
 {
-    std::printf("libtq example host\n\n");
-    // The library logs through one sink; a host sends the lines wherever its own log goes.
-    Bsc::Logger::instance().setSink([](std::string const& line) { std::printf("  [log] %s\n", line.c_str()); });
-    GradeSettings settings;
-    vAnimate(settings);
-    vSaveAndLoad(settings);
-    vDescribeClip();
-    return 0;
+    QString const outDir = QDir(argc > 1 ? argv[1] : "build/example-output").absolutePath();
+    QString const projectPath = QFileInfo(argc > 2 ? argv[2] : TQ_EXAMPLE_PROJECT).absoluteFilePath();
+    QFile projectFile(projectPath);
+    if (!QDir().mkpath(outDir) || !projectFile.open(QIODevice::ReadOnly)) {
+        std::fprintf(stderr, "cannot read %s or write into %s\n", qPrintable(projectPath), qPrintable(outDir));
+        return 1;
+    }
+    // The library logs through one sink; this host drops its lines, as the report says what matters.
+    Bsc::Logger::instance().setSink([](std::string const&) {});
+
+    QString text;
+    QTextStream report(&text);
+    report << "libtq example host\nProject: " << projectPath << "\nOutput:  " << outDir << "\n\n";
+
+    Project project;
+    LoadResult const loaded = load(project, QString::fromUtf8(projectFile.readAll()));
+    report << "Lines read:";
+    for (auto it = loaded.linesPerSet.cbegin(); it != loaded.linesPerSet.cend(); ++it)
+        report << " " << it.key() << " " << it.value();
+    report << "\nLines not read: " << loaded.unread.size() << "\n";
+    for (QString const& line : loaded.unread)
+        report << "  " << line << "\n";
+    TQ_BaseClipInfo const& clip = project.clips.clip;
+    report << "Clip 1: " << clip.FrameWidth << " x " << clip.FrameHeight << ", " << clip.getClipLength()
+           << " frames, film back width " << clip.filmType.filmBackWidth << "\n\n";
+    if (clip.getClipLength() == 0) {
+        std::fprintf(stderr, "the project has no clip\n");
+        return 1;
+    }
+
+    vReportCameras(project, report);
+    report << "\n";
+    vReportCorners(project, 30, report);
+    report << "\n";
+    vReportEdit(project, report);
+    vReportSaveAndReload(project, outDir + "/shot-saved.tqp", report);
+
+    bool const bDrawn = bDrawCurve(project.lens.RadialK1, clip.getClipLength(), outDir + "/curve.svg")
+                        && bDrawDistortionGrid(project, 0, outDir + "/distortion-grid.svg");
+    report << "\nPictures: " << outDir << "/curve.svg (RadialK1, keys marked), " << outDir
+           << "/distortion-grid.svg (the lens at frame 0)\n";
+    report.flush();
+
+    QFile reportFile(outDir + "/report.txt");
+    bool const bReported = reportFile.open(QIODevice::WriteOnly | QIODevice::Truncate)
+                           && reportFile.write(text.toUtf8()) >= 0;
+    std::fputs(qPrintable(text), stdout);
+    return bDrawn && bReported ? 0 : 1;
 }
