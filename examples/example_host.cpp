@@ -185,7 +185,7 @@ bool bDrawDistortionGrid(Project const& project, unsigned int frame, QString con
     double const w = project.clips.clip.FrameWidth, h = project.clips.clip.FrameHeight;
     double const scale = 600 / w, margin = 30;
     TQ::FrameWarp const lensOnly = frameWarp(project, frame, gan_mat33_ident_s());
-    SvgPicture svg(int(w * scale + 2 * margin), int(h * scale + 2 * margin + 20));
+    SvgPicture svg(int(w * scale + 2 * margin), int(h * scale + 2 * margin + 30));
     svg.vText({margin, 22}, QStringLiteral("Lens distortion at frame %1 (RadialK1 %2)")
                                 .arg(frame).arg(number(project.lens.RadialK1.value(float(frame), nullptr), 3)));
     auto const draw = [&](QPointF from, QPointF to) {
@@ -202,6 +202,9 @@ bool bDrawDistortionGrid(Project const& project, unsigned int frame, QString con
         draw({w * i / 16, 0}, {w * i / 16, h});
     for (int i = 0; i <= 9; ++i)
         draw({0, h * i / 9}, {w, h * i / 9});
+    svg.vText({margin, h * scale + margin + 42},
+              QStringLiteral("grey: a straight grid over the %1 x %2 frame; blue: the same grid through the lens")
+                  .arg(w).arg(h));
     return svg.bSave(path);
 }
 
