@@ -7,6 +7,9 @@
 // grid through a frame warp, makes one undoable edit, saves and reloads the project, and writes
 // report.txt, curve.svg and distortion-grid.svg into the output folder (by default
 // build/example-output). The report is printed as well.
+//
+// In the project, "Warp.HomograpyZX" comes twice: the frame warp saves row 3, column 1 and row 3, column 3
+// under that one name, and its set hands the second block of lines to the second entry.
 #include "SvgPicture.h"
 #include "tq.h"
 
