@@ -5,11 +5,14 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <array>
 #include <climits>
 #include <cmath>
 #include <cstring>
 #include <limits>
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -18,21 +21,19 @@ Gan_Matrix33 const translation{1, 0, 5, 0, 1, 0, 0, 0, 1};
 
 // Stand-in point functions: identity on success; a failing one scribbles on x first, so that "left as the
 // camera left it" differs from "restored".
+template <bool bOk> Gan_Bool project(Gan_Camera const*, Gan_Vector3 const* in, Gan_Vector3* out, void*, void*, void*, int*)
+{
+    return bOk ? (*out = *in, GAN_TRUE) : (out->x = 42, GAN_FALSE);
+}
+template <bool bOk> Gan_Bool backproject(Gan_Camera const*, Gan_Vector3 const* in, Gan_Vector3* out, void*, int*)
+{
+    return bOk ? (*out = *in, GAN_TRUE) : (out->x = 42, GAN_FALSE);
+}
+
 Gan_Camera stub(bool bProjects, bool bBackprojects, double zh = 1.0, Gan_CameraType type = GAN_LINEAR_CAMERA)
 {
-    Gan_Camera c{};
-    c.type = type;
-    c.zh = zh;
-    c.point_project = bProjects ? +[](Gan_Camera const*, Gan_Vector3 const* in, Gan_Vector3* out, void*, void*,
-                                      void*, int*) { return *out = *in, GAN_TRUE; }
-                                : +[](Gan_Camera const*, Gan_Vector3 const*, Gan_Vector3* out, void*, void*, void*,
-                                      int*) { return out->x = 42, GAN_FALSE; };
-    c.point_backproject = bBackprojects ? +[](Gan_Camera const*, Gan_Vector3 const* in, Gan_Vector3* out, void*,
-                                              int*) { return *out = *in, GAN_TRUE; }
-                                        : +[](Gan_Camera const*, Gan_Vector3 const*, Gan_Vector3* out, void*, int*) {
-                                              return out->x = 42, GAN_FALSE;
-                                          };
-    return c;
+    return {type, {}, {}, {}, {}, {zh}, {}, nullptr, nullptr, bProjects ? project<true> : project<false>,
+            bBackprojects ? backproject<true> : backproject<false>};
 }
 
 // The flags passed are false: they end up true all the same.
@@ -77,7 +78,7 @@ TEST(FrameWarp, WarpThenUnwarpReturnsPointsForEveryLensOnEitherSide)
             forward[1] = backward[1] = float(row + 0.5);
         }
     std::unique_ptr<Gan_CubicBSplineWeights> const grid(ptGrid(0.5));
-    auto const lens = [&](Gan_CameraType type, std::initializer_list<double> d) {
+    auto const lens = [&](Gan_CameraType type, std::array<double, 4> d) {
         Gan_Camera c{type, {800}, {780}, {320}, {240}, {320}, {}, grid.get(), nullptr, nullptr, nullptr};
         std::copy(d.begin(), d.end(), c.d);
         if (type == GAN_DISTORTION_MAP)
@@ -86,16 +87,15 @@ TEST(FrameWarp, WarpThenUnwarpReturnsPointsForEveryLensOnEitherSide)
         return c;
     };
     Gan_Camera const linear = lens(GAN_LINEAR_CAMERA, {});
-    Gan_Camera const cameras[] = {linear, lens(GAN_RADIAL_DISTORTION_1, {-0.05}),
-                                  lens(GAN_RADIAL_DISTORTION_2, {-0.05, 0.01}),
-                                  lens(GAN_RADIAL_DISTORTION_3, {-0.05, 0.01, 0.001}),
-                                  lens(GAN_RADIAL_DISTORTION_1_INV, {0.03}),
-                                  lens(GAN_RADIAL_DISTORTION_2_INV, {0.03, 0.002}), lens(GAN_STEREOGRAPHIC_CAMERA, {}),
-                                  lens(GAN_EQUIDISTANT_CAMERA, {}), lens(GAN_SINE_LAW_CAMERA, {}),
-                                  lens(GAN_EQUI_SOLID_ANGLE_CAMERA, {}),
-                                  lens(GAN_XY_DISTORTION_4, {0.01, 0.02, 0.015, 0.005}),
-                                  lens(GAN_CUBIC_BSPLINE_CAMERA, {}), lens(GAN_CUBIC_BSPLINE_CAMERA_INV, {}),
-                                  lens(GAN_DISTORTION_MAP, {})};
+    std::vector<Gan_Camera> cameras;
+    for (auto const& [type, d] : std::initializer_list<std::pair<Gan_CameraType, std::array<double, 4>>>{
+             {GAN_LINEAR_CAMERA, {}}, {GAN_RADIAL_DISTORTION_1, {-0.05}}, {GAN_RADIAL_DISTORTION_2, {-0.05, 0.01}},
+             {GAN_RADIAL_DISTORTION_3, {-0.05, 0.01, 0.001}}, {GAN_RADIAL_DISTORTION_1_INV, {0.03}},
+             {GAN_RADIAL_DISTORTION_2_INV, {0.03, 0.002}}, {GAN_STEREOGRAPHIC_CAMERA, {}}, {GAN_EQUIDISTANT_CAMERA, {}},
+             {GAN_SINE_LAW_CAMERA, {}}, {GAN_EQUI_SOLID_ANGLE_CAMERA, {}},
+             {GAN_XY_DISTORTION_4, {0.01, 0.02, 0.015, 0.005}}, {GAN_CUBIC_BSPLINE_CAMERA, {}},
+             {GAN_CUBIC_BSPLINE_CAMERA_INV, {}}, {GAN_DISTORTION_MAP, {}}})
+        cameras.push_back(lens(type, d));
     Gan_Matrix33 const h{1.02, 0.01, 0.01, -0.01, 0.98, -0.005, 0.01, -0.02, 1};
     for (Gan_Camera const& c : cameras)
         for (auto const& side : {std::make_pair(c, linear), std::make_pair(linear, c), std::make_pair(c, c)}) {
@@ -267,35 +267,30 @@ TEST(FrameWarp, WithoutCamerasTheImagePlaneScalesAndOverloadsBringTheirSidesZ)
 TEST(FrameWarp, CopiesAreDeep)
 {
     std::unique_ptr<Gan_CubicBSplineWeights> const callerGrid(ptGrid(3.0));
-    Gan_Camera spline = stub(true, true, 1.0, GAN_CUBIC_BSPLINE_CAMERA);
-    spline.weights = callerGrid.get();
-    Gan_Camera outside = stub(true, true);
-    outside.weights = callerGrid.get();
-
-    TQ::FrameWarp source;
+    Gan_Camera spline = stub(true, true, 1.0, GAN_CUBIC_BSPLINE_CAMERA), outside = stub(true, true);
+    spline.weights = outside.weights = callerGrid.get();
+    TQ::FrameWarp source, assigned;
     vSet(source, spline, translation, outside, nullptr, ptGrid(4.0));
-    TQ::FrameWarp assigned;
     vSet(assigned, spline, gan_mat33_ident_s(), spline);
     assigned = source;
     assigned = static_cast<TQ::FrameWarp const&>(assigned);
     TQ::FrameWarp const constructed(source);
     for (TQ::FrameWarp const* copy : {static_cast<TQ::FrameWarp const*>(&assigned), &constructed}) {
-        EXPECT_NE(copy->ptBackprojectionWeights, source.ptBackprojectionWeights);
-        EXPECT_NE(copy->ptProjectionWeights, source.ptProjectionWeights);
+        EXPECT_TRUE(copy->ptBackprojectionWeights != source.ptBackprojectionWeights
+                    && copy->ptProjectionWeights != source.ptProjectionWeights);
         EXPECT_EQ(copy->tBackprojectionCamera.weights, copy->ptBackprojectionWeights) << "follows its own buffer";
         EXPECT_EQ(copy->tProjectionCamera.weights, callerGrid.get()) << "memory outside the warp stays shared";
-        EXPECT_TRUE(bSameGrid(copy->ptBackprojectionWeights, callerGrid.get()));
-        EXPECT_TRUE(bSameGrid(copy->ptProjectionWeights, source.ptProjectionWeights));
+        EXPECT_TRUE(bSameGrid(copy->ptBackprojectionWeights, callerGrid.get())
+                    && bSameGrid(copy->ptProjectionWeights, source.ptProjectionWeights));
         EXPECT_EQ(copy->tInverseHomography.xz, -5.0);
     }
-
     // One buffer behind both sides stays one buffer in the copy.
     TQ::FrameWarp twin;
     Gan_CubicBSplineWeights* const both = ptGrid(1.0);
     vSet(twin, spline, translation, spline, both, both);
     TQ::FrameWarp const twinCopy(twin);
-    EXPECT_EQ(twinCopy.ptBackprojectionWeights, twinCopy.ptProjectionWeights);
-    EXPECT_EQ(twinCopy.tProjectionCamera.weights, twinCopy.ptProjectionWeights);
+    EXPECT_TRUE(twinCopy.ptBackprojectionWeights == twinCopy.ptProjectionWeights
+                && twinCopy.tProjectionCamera.weights == twinCopy.ptProjectionWeights);
 }
 
 TEST(FrameWarp, TypeStreamsAsItsNumber)
