@@ -17,29 +17,21 @@ struct P2 {
     double x, y;
 };
 using Formula = std::function<P2(P2)>;
-
 double const kNaN = std::numeric_limits<double>::quiet_NaN();
 
-P2 radial(P2 u, double k1, double k2, double k3)
+Formula radial(double k1, double k2 = 0, double k3 = 0)
 {
-    double const r2 = u.x * u.x + u.y * u.y;
-    double const f = 1 + k1 * r2 + k2 * r2 * r2 + k3 * r2 * r2 * r2;
-    return {u.x * f, u.y * f};
-}
-
-Formula fishEye(std::function<double(double)> radiusOfAngle)
-{
-    return [radiusOfAngle](P2 u) {
-        double const r = std::sqrt(u.x * u.x + u.y * u.y);
-        double const s = r == 0 ? 1 : radiusOfAngle(std::atan(r)) / r;
-        return P2{u.x * s, u.y * s};
+    return [=](P2 u) {
+        double const r2 = u.x * u.x + u.y * u.y, f = 1 + k1 * r2 + k2 * r2 * r2 + k3 * r2 * r2 * r2;
+        return P2{u.x * f, u.y * f};
     };
 }
 
-Formula anamorphic(double cxx, double cxy, double cyx, double cyy)
+Formula fishEye(double (*radiusOfAngle)(double))
 {
-    return [=](P2 u) {
-        return P2{u.x * (1 + cxx * u.x * u.x + cxy * u.y * u.y), u.y * (1 + cyx * u.x * u.x + cyy * u.y * u.y)};
+    return [radiusOfAngle](P2 u) {
+        double const r = std::hypot(u.x, u.y), s = r == 0 ? 1 : radiusOfAngle(std::atan(r)) / r;
+        return P2{u.x * s, u.y * s};
     };
 }
 
@@ -49,20 +41,23 @@ double cubicBSpline(double s)
     return s < 1 ? 2.0 / 3 - s * s + s * s * s / 2 : s < 2 ? (2 - s) * (2 - s) * (2 - s) / 6 : 0;
 }
 
-/// Control point m of 17 sits at offset -zh + m zh / 8; indices past the grid repeat the edge.
-P2 gridDisplacement(Gan_CubicBSplineWeights const& w, double zh, P2 offset)
+/// The grid model on normalised points: control point m of 17 sits at offset -zh + m zh / 8, indices past
+/// the grid repeat the edge, and the displacement is in pixels.
+Formula gridFormula(std::shared_ptr<Gan_CubicBSplineWeights> w, double f, double zh)
 {
-    auto const knot = [zh](double o) { return (std::fmin(std::fmax(o / zh, -1), 1) + 1) * 8; };
-    double const kx = knot(offset.x), ky = knot(offset.y);
-    P2 d{0, 0};
-    for (int i = -1; i <= 17; ++i)
-        for (int j = -1; j <= 17; ++j) {
-            Gan_Vector2 const& c = w.weight[std::min(std::max(i, 0), 16)][std::min(std::max(j, 0), 16)];
-            double const b = cubicBSpline(ky - i) * cubicBSpline(kx - j);
-            d.x += b * c.x;
-            d.y += b * c.y;
-        }
-    return d;
+    return [w, f, zh](P2 p) {
+        auto const knot = [zh](double o) { return (std::fmin(std::fmax(o / zh, -1), 1) + 1) * 8; };
+        double const kx = knot(p.x * f), ky = knot(p.y * f);
+        P2 d{p.x * f, p.y * f};
+        for (int i = -1; i <= 17; ++i)
+            for (int j = -1; j <= 17; ++j) {
+                Gan_Vector2 const& c = w->weight[std::clamp(i, 0, 16)][std::clamp(j, 0, 16)];
+                double const b = cubicBSpline(ky - i) * cubicBSpline(kx - j);
+                d.x += b * c.x;
+                d.y += b * c.y;
+            }
+        return P2{d.x / f, d.y / f};
+    };
 }
 
 /// A radial-looking field with a twist, `strength` pixels at the grid's corners.
@@ -77,8 +72,7 @@ std::shared_ptr<Gan_CubicBSplineWeights> gridWeights(double strength)
     return w;
 }
 
-/// A distortion map image that scales pixels by `scale` about (cx, cy). The sample values are exact in
-/// float for the sizes used here.
+/// A distortion map image that scales pixels by `scale` about the centre; exact in float at these sizes.
 std::shared_ptr<Gan_Image> scaleMap(unsigned long width, unsigned long height, double scale)
 {
     std::shared_ptr<Gan_Image> image(gan_image_alloc(GAN_VECTOR_FIELD_2D, GAN_FLOAT, height, width), gan_image_free);
@@ -94,10 +88,10 @@ std::shared_ptr<Gan_Image> scaleMap(unsigned long width, unsigned long height, d
 struct Lens {
     std::string name;
     Gan_CameraType type;
-    double f;  // focal length in pixels
+    double f; // focal length in pixels
     std::vector<double> d;
-    Formula truth;           // the model's formula in its closed-form direction
-    bool bTruthProjects;     // truth maps undistorted to distorted (else the reverse)
+    Formula truth;       // the model's formula in its closed-form direction
+    bool bTruthProjects; // truth maps undistorted to distorted (else the reverse)
     std::shared_ptr<Gan_CubicBSplineWeights> weights{};
     std::shared_ptr<Gan_Image> direct{}, inverse{};
     double width = 1920, height = 1080;
@@ -105,69 +99,49 @@ struct Lens {
 
 Gan_Camera cameraOf(Lens const& lens)
 {
-    Gan_Camera camera{};
-    camera.type = lens.type;
-    camera.fx = camera.fy = lens.f;
-    camera.x0 = lens.width / 2;
-    camera.y0 = lens.height / 2;
-    camera.zh = lens.width / 2;
-    for (size_t i = 0; i < lens.d.size(); ++i)
-        camera.d[i] = lens.d[i];
-    camera.weights = lens.weights.get();
-    if (lens.direct) {
-        camera.map.direct = lens.direct.get();
-        camera.map.inverse = lens.inverse.get();
-    }
+    Gan_Camera camera{lens.type, {lens.f}, {lens.f}, {lens.width / 2}, {lens.height / 2}, {lens.width / 2}, {},
+                      lens.weights.get(), nullptr, nullptr, nullptr};
+    std::copy(lens.d.begin(), lens.d.end(), camera.d);
+    if (lens.direct)
+        camera.map = {lens.direct.get(), lens.inverse.get()};
     return camera;
-}
-
-Formula gridFormula(std::shared_ptr<Gan_CubicBSplineWeights> w, double f, double zh)
-{
-    return [w, f, zh](P2 p) {
-        P2 const offset{p.x * f, p.y * f};
-        P2 const d = gridDisplacement(*w, zh, offset);
-        return P2{(offset.x + d.x) / f, (offset.y + d.y) / f};
-    };
 }
 
 std::vector<Lens> lenses()
 {
     std::vector<Lens> all;
-    for (double sign : {-1.0, 1.0}) {  // barrel, then pincushion
+    for (double sign : {-1.0, 1.0}) { // barrel, then pincushion
         std::string const kind = sign < 0 ? " barrel" : " pincushion";
-        double const k1 = 0.2 * sign, k2 = 0.05, k3 = 0.02 * sign;
-        all.push_back({"radial 1" + kind, GAN_RADIAL_DISTORTION_1, 1500, {k1},
-                       [=](P2 u) { return radial(u, k1, 0, 0); }, true});
-        all.push_back({"radial 2" + kind, GAN_RADIAL_DISTORTION_2, 1500, {k1, k2},
-                       [=](P2 u) { return radial(u, k1, k2, 0); }, true});
-        all.push_back({"radial 3" + kind, GAN_RADIAL_DISTORTION_3, 1500, {k1, k2, k3},
-                       [=](P2 u) { return radial(u, k1, k2, k3); }, true});
-        // The inverse models' factor undistorts: a positive coefficient is barrel.
-        all.push_back({"inverse radial 1" + kind, GAN_RADIAL_DISTORTION_1_INV, 1500, {-0.3 * sign},
-                       [=](P2 d) { return radial(d, -0.3 * sign, 0, 0); }, false});
-        all.push_back({"inverse radial 2" + kind, GAN_RADIAL_DISTORTION_2_INV, 1500, {-0.25 * sign, -0.05 * sign},
-                       [=](P2 d) { return radial(d, -0.25 * sign, -0.05 * sign, 0); }, false});
-        double const c = 0.1 * sign;
-        all.push_back({"anamorphic" + kind, GAN_XY_DISTORTION_4, 1500, {c, c / 2, -c * 0.8, c * 1.2},
-                       anamorphic(c, c / 2, -c * 0.8, c * 1.2), true});
+        double const k1 = 0.2 * sign, k2 = 0.05, k3 = 0.02 * sign, c = 0.1 * sign;
         auto const w = gridWeights(40 * sign);
-        all.push_back({"B-spline grid" + kind, GAN_CUBIC_BSPLINE_CAMERA, 1500, {}, gridFormula(w, 1500, 960), true, w});
-        all.push_back({"inverse B-spline grid" + kind, GAN_CUBIC_BSPLINE_CAMERA_INV, 1500, {},
-                       gridFormula(w, 1500, 960), false, w});
+        std::vector<Lens> const ofSign{
+            {"radial 1", GAN_RADIAL_DISTORTION_1, 1500, {k1}, radial(k1), true},
+            {"radial 2", GAN_RADIAL_DISTORTION_2, 1500, {k1, k2}, radial(k1, k2), true},
+            {"radial 3", GAN_RADIAL_DISTORTION_3, 1500, {k1, k2, k3}, radial(k1, k2, k3), true},
+            // The inverse models' factor undistorts: a positive coefficient is barrel.
+            {"inverse radial 1", GAN_RADIAL_DISTORTION_1_INV, 1500, {-0.3 * sign}, radial(-0.3 * sign), false},
+            {"inverse radial 2", GAN_RADIAL_DISTORTION_2_INV, 1500, {-0.25 * sign, -0.05 * sign},
+             radial(-0.25 * sign, -0.05 * sign), false},
+            {"anamorphic", GAN_XY_DISTORTION_4, 1500, {c, c / 2, -c * 0.8, c * 1.2},
+             [c](P2 u) {
+                 return P2{u.x * (1 + c * u.x * u.x + c / 2 * u.y * u.y), u.y * (1 - c * 0.8 * u.x * u.x + c * 1.2 * u.y * u.y)};
+             },
+             true},
+            {"B-spline grid", GAN_CUBIC_BSPLINE_CAMERA, 1500, {}, gridFormula(w, 1500, 960), true, w},
+            {"inverse B-spline grid", GAN_CUBIC_BSPLINE_CAMERA_INV, 1500, {}, gridFormula(w, 1500, 960), false, w}};
+        for (Lens lens : ofSign) {
+            lens.name += kind;
+            all.push_back(lens);
+        }
     }
     all.push_back({"linear", GAN_LINEAR_CAMERA, 1500, {}, [](P2 u) { return u; }, true});
-    all.push_back({"stereographic", GAN_STEREOGRAPHIC_CAMERA, 800, {},
-                   fishEye([](double t) { return 2 * std::tan(t / 2); }), true});
+    all.push_back({"stereographic", GAN_STEREOGRAPHIC_CAMERA, 800, {}, fishEye([](double t) { return 2 * std::tan(t / 2); }), true});
     all.push_back({"equidistant", GAN_EQUIDISTANT_CAMERA, 800, {}, fishEye([](double t) { return t; }), true});
     all.push_back({"sine law", GAN_SINE_LAW_CAMERA, 1200, {}, fishEye([](double t) { return std::sin(t); }), true});
-    all.push_back({"equi-solid-angle", GAN_EQUI_SOLID_ANGLE_CAMERA, 800, {},
-                   fishEye([](double t) { return 2 * std::sin(t / 2); }), true});
+    all.push_back({"equi-solid-angle", GAN_EQUI_SOLID_ANGLE_CAMERA, 800, {}, fishEye([](double t) { return 2 * std::sin(t / 2); }), true});
     // Maps: undistorted points spread out by 2 about the centre; the inverse brings them back.
-    Lens map{"distortion map", GAN_DISTORTION_MAP, 50, {}, [](P2 d) { return P2{d.x / 2, d.y / 2}; }, false};
-    map.direct = scaleMap(64, 32, 2);
-    map.inverse = scaleMap(64, 32, 0.5);
-    map.width = 64;
-    map.height = 32;
+    Lens map{"distortion map", GAN_DISTORTION_MAP, 50, {}, [](P2 d) { return P2{d.x / 2, d.y / 2}; }, false, {},
+             scaleMap(64, 32, 2), scaleMap(64, 32, 0.5), 64, 32};
     all.push_back(map);
     return all;
 }
@@ -182,7 +156,7 @@ P2 normalised(Gan_Camera const& camera, Gan_Vector3 const& p)
     return {(p.x - camera.x0) / camera.fx, (p.y - camera.y0) / camera.fy};
 }
 
-}  // namespace
+} // namespace
 
 TEST(Camera, EveryModelRoundTripsOverTheWholeFrameAndMatchesItsFormula)
 {
@@ -267,10 +241,23 @@ TEST(Camera, PointsOutsideTheDomainAndBadInputFailWithoutTouchingTheOutput)
         {"null weights", GAN_CUBIC_BSPLINE_CAMERA, {}, sound, sound, [](Gan_Camera& c) { c.weights = nullptr; }},
         {"NaN weights", GAN_CUBIC_BSPLINE_CAMERA_INV, {}, sound, sound,
          [](Gan_Camera& c) { std::fill_n(&c.weights->weight[0][0].x, 578, kNaN); }},
+        // Each map serves one direction: a bad direct map fails projection, a bad inverse map back-projection.
+        {"null direct map", GAN_DISTORTION_MAP, {}, sound, skip, [](Gan_Camera& c) { c.map.direct = nullptr; }},
+        {"null inverse map", GAN_DISTORTION_MAP, {}, skip, sound, [](Gan_Camera& c) { c.map.inverse = nullptr; }},
+        {"map of the wrong format", GAN_DISTORTION_MAP, {}, sound, skip,
+         [](Gan_Camera& c) { c.map.direct->format = GAN_RGB_COLOUR_IMAGE; }},
+        {"map of the wrong type", GAN_DISTORTION_MAP, {}, skip, sound,
+         [](Gan_Camera& c) { c.map.inverse->type = GAN_DOUBLE; }},
+        {"map with a short stride", GAN_DISTORTION_MAP, {}, sound, skip,
+         [](Gan_Camera& c) { c.map.direct->stride = 8 * 7; }},
     };
     for (Case const& c : cases) {
         SCOPED_TRACE(c.name);
         Lens lens{c.name, c.type, 1000, c.d, {}, true, std::make_shared<Gan_CubicBSplineWeights>(*w)};
+        if (c.type == GAN_DISTORTION_MAP) {
+            lens.direct = scaleMap(8, 8, 1);
+            lens.inverse = scaleMap(8, 8, 1);
+        }
         Gan_Camera camera = cameraOf(lens);
         if (c.spoil)
             c.spoil(camera);
@@ -296,48 +283,12 @@ TEST(Camera, PointsOutsideTheDomainAndBadInputFailWithoutTouchingTheOutput)
     EXPECT_EQ(gan_camera_is_valid(nullptr), GAN_FALSE);
 }
 
-TEST(Camera, MapsReadOnlyTheirOwnFrameAndRefuseBadImages)
+TEST(Camera, MapsReadOnlyTheirOwnFrame)
 {
-    // Each map serves one direction: a bad direct map fails projection, a bad inverse map back-projection.
-    struct {
-        char const* name;
-        bool bDirect;
-        std::function<void(Gan_Image&)> spoil;
-    } const cases[] = {
-        {"null direct map", true, nullptr},
-        {"null inverse map", false, nullptr},
-        {"map of the wrong format", true, [](Gan_Image& i) { i.format = GAN_RGB_COLOUR_IMAGE; }},
-        {"map of the wrong type", false, [](Gan_Image& i) { i.type = GAN_DOUBLE; }},
-        {"map with a short stride", true, [](Gan_Image& i) { i.stride = 8 * 7; }},
-    };
-    for (auto const& c : cases) {
-        SCOPED_TRACE(c.name);
-        Lens map{"map", GAN_DISTORTION_MAP, 50, {}, {}, true};
-        map.direct = scaleMap(8, 8, 1);
-        map.inverse = scaleMap(8, 8, 1);
-        Gan_Camera camera = cameraOf(map);
-        Gan_Image*& image = c.bDirect ? camera.map.direct : camera.map.inverse;
-        if (c.spoil)
-            c.spoil(*image);
-        else
-            image = nullptr;
-        EXPECT_EQ(gan_camera_internalize(&camera), GAN_FALSE);
-        Gan_Vector3 const point{0, 0, 10};
-        Gan_Vector3 out{7, 8, 9};
-        int error = 0;
-        EXPECT_EQ(c.bDirect ? camera.point_project(&camera, &point, &out, nullptr, nullptr, nullptr, &error)
-                            : camera.point_backproject(&camera, &point, &out, nullptr, &error),
-                  GAN_FALSE);
-        EXPECT_TRUE(error != 0 && out.x == 7 && out.y == 8 && out.z == 9);
-    }
-
     // Back-projecting the outer pixels of a shrinking map lands outside the direct map; points outside
     // either image fail.
-    Lens map{"shrinking map", GAN_DISTORTION_MAP, 50, {}, {}, true};
-    map.direct = scaleMap(64, 32, 0.5);
-    map.inverse = scaleMap(64, 32, 2);
-    map.width = 64;
-    map.height = 32;
+    Lens const map{"shrinking map", GAN_DISTORTION_MAP, 50, {}, {}, true, {}, scaleMap(64, 32, 0.5), scaleMap(64, 32, 2),
+                   64, 32};
     Gan_Camera camera = cameraOf(map);
     ASSERT_EQ(gan_camera_internalize(&camera), GAN_TRUE);
     Gan_Vector3 p{40, 20, camera.zh};
