@@ -52,7 +52,9 @@ void vMapLens(TQ_CameraParameterSet& set)
 TEST(CameraParameterSet, ParameterTable)
 {
     std::vector<ParameterRow> rows;
-    auto const row = [&rows](char kind, QString const& name, char const* value, double dMin = dNoLimit, double dMax = dNoLimit) {
+    // Kinds: 'C' a plain clip-level value, 'L' a keyframed lens value, 'T' a keyframed scene transform.
+    auto const row = [&rows](char kind, QString const& name, char const* value, double dMin = dNoLimit,
+                             double dMax = dNoLimit) {
         bool const bLens = kind == 'L';
         rows.push_back({name, kind != 'C', value, dMin, dMax, bLens ? Prm::InterpolationLinear : Prm::InterpolationStep,
                         bLens ? Prm::ExtrapolationLinear : Prm::ExtrapolationHold});

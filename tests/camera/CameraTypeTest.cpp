@@ -51,7 +51,8 @@ TEST(CameraType, InstancesAndOfferedTable)
 TEST(CameraType, UnknownIdsAndModelsReadAsLinearWithAMessage)
 {
     for (auto [bById, iValue, message] :
-         {std::tuple{true, 6, "CameraType::fromId(): invalid id 6 "}, {true, -1, "CameraType::fromId(): invalid id -1 "},
+         {std::tuple{true, 6, "CameraType::fromId(): invalid id 6 "},
+          {true, -1, "CameraType::fromId(): invalid id -1 "},
           {false, 3, "CameraType::fromGandalf(): no camera type found for Gandalftype 3 "},
           {false, 10, "CameraType::fromGandalf(): no camera type found for Gandalftype 10 "}}) {
         CriticalCapture capture;

