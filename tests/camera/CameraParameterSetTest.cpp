@@ -170,25 +170,13 @@ TEST(CameraParameterSet, HashFeedsTheLensAndClipValuesInOrderAsTheirBytes)
         set.getCamera(5, &info);
 
         Bsc::Hash expected;
-        auto const feed = [&expected](auto const& value) { expected.update(&value, sizeof value); };
-        feed(type);
-        feed(info.FrameWidth);
-        feed(info.FrameHeight);
-        feed(info.eInterlaceMode);
-        feed(info.filmType.filmBackWidth);
-        feed(info.filmType.filmBackHeight);
-        feed(info.eInterlaceMode); // twice
-        feed(info.AspectRatio);
-        feed(info.PixelAspectRatio);
-        for (float const value : {40.0f, 0.25f, 0.5f})
-            feed(value);
-        feed(false);
-        for (float const value : {0.0f, 20.0f, 0.0f, 0.0f, 0.0f, -3.0f})
-            feed(value);
-        if (bAddresses) {
-            feed(provider.direct.get());
-            feed(provider.inverse.get());
-        }
+        auto const feed = [&expected](auto const&... values) { (expected.update(&values, sizeof values), ...); };
+        // The interlace mode goes in twice; the lens values as read, within their limits.
+        feed(type, info.FrameWidth, info.FrameHeight, info.eInterlaceMode, info.filmType.filmBackWidth,
+             info.filmType.filmBackHeight, info.eInterlaceMode, info.AspectRatio, info.PixelAspectRatio);
+        feed(40.0f, 0.25f, 0.5f, false, 0.0f, 20.0f, 0.0f, 0.0f, 0.0f, -3.0f);
+        if (bAddresses)
+            feed(provider.direct.get(), provider.inverse.get());
         ASSERT_EQ(Frames({5}), set.cameraHashes.keys()) << type;
         EXPECT_EQ(expected.digest(), set.cameraHashes.value(5).digest()) << type;
         EXPECT_EQ(40.0f, set.cameras.value(5).focalDistance);
