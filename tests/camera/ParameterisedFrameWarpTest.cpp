@@ -157,18 +157,18 @@ TEST(ParameterisedFrameWarp, TextRoundTripsEveryEntry)
     source.setFromFrameWarp(warp, 0.0f);
     vFillWarp(warp, -1, 8, Gan_Matrix33{2, 0, 1, 0, 2, 1, 0.5, 0, 4}, 1.5);
     source.setFromFrameWarp(warp, 7.0f);
-    source.Type = TQ::FrameWarp::_Type(7);
+    source.Type = TQ::FrameWarp::_Type(-7); // written as an int, read back through unsigned
     source.LayerID.hide(true);
     QString const text = Prm::ParameterTextDocument(source).qstrWrite();
     EXPECT_TRUE(text.startsWith("LayerID.")) << "the set has no name of its own";
     EXPECT_EQ(text.count("\nGanCamera.Type.keyframes"), 2 * 2);
-    EXPECT_TRUE(text.contains("\nType.value=7\n"));
+    EXPECT_TRUE(text.contains("\nType.value=-7\n"));
 
     Prm::ParameterTextDocument document(target);
     EXPECT_EQ(document.iRead(text), text.count('\n'));
     EXPECT_TRUE(document.unreadLines().isEmpty());
     EXPECT_EQ(Prm::ParameterTextDocument(target).qstrWrite(), text);
-    EXPECT_TRUE(static_cast<int>(target.Type) == 7 && target.LayerID.isHidden());
+    EXPECT_TRUE(static_cast<int>(target.Type) == -7 && target.LayerID.isHidden());
     for (int i = 0; i < 9; ++i)
         EXPECT_EQ(target.Homography[i].keyframeValue(1), source.Homography[i].keyframeValue(1)) << i;
     EXPECT_EQ(target.Homography[8].keyframeValue(1), 4.0) << "the second \"HomograpyZX\" keeps its own keys";
