@@ -69,14 +69,13 @@ TEST(FrameWarp, WarpThenUnwarpReturnsPointsForEveryLensOnEitherSide)
     // Maps that move a pixel right by one and back, on a 640 x 480 frame.
     Gan_CameraMaps const maps{gan_image_alloc(GAN_VECTOR_FIELD_2D, GAN_FLOAT, 480, 640),
                               gan_image_alloc(GAN_VECTOR_FIELD_2D, GAN_FLOAT, 480, 640)};
-    for (unsigned long row = 0; row < 480; ++row)
-        for (unsigned long col = 0; col < 640; ++col) {
-            auto* forward = static_cast<float*>(gan_image_get_pixptr(maps.direct, row, col));
-            auto* backward = static_cast<float*>(gan_image_get_pixptr(maps.inverse, row, col));
-            forward[0] = float(col + 1.5);
-            backward[0] = float(col - 0.5);
-            forward[1] = backward[1] = float(row + 0.5);
-        }
+    for (auto [image, dShift] : {std::pair{maps.direct, 1.0}, {maps.inverse, -1.0}})
+        for (unsigned long row = 0; row < 480; ++row)
+            for (unsigned long col = 0; col < 640; ++col) {
+                auto* pixel = static_cast<float*>(gan_image_get_pixptr(image, row, col));
+                pixel[0] = float(col + 0.5 + dShift);
+                pixel[1] = float(row + 0.5);
+            }
     std::unique_ptr<Gan_CubicBSplineWeights> const grid(ptGrid(0.5));
     auto const lens = [&](Gan_CameraType type, std::array<double, 4> d) {
         Gan_Camera c{type, {800}, {780}, {320}, {240}, {320}, {}, grid.get(), nullptr, nullptr, nullptr};
