@@ -30,89 +30,68 @@ TQ::Camera lens(Gan_CameraType type, bool bActive)
 
 } // namespace
 
-TEST(Camera, ToGanCameraFillsTheModelsSlotsAndHalvesFields)
+TEST(Camera, ToGanCameraFillsTheModelsSlotsAndUpdateTakesThemBack)
 {
+    // Per model: the Gandalf type and slots written, and what update takes back beyond the centre and focal
+    // length (radialK1, radialK2, cxx, cxy, cyx, cyy): the coefficients of its own model only.
     struct {
         Gan_CameraType type;
         bool bActive;
-        Gan_CameraType expectedType;
+        Gan_CameraType ganType;
         std::array<double, 4> d;
+        std::array<float, 6> back;
     } const rows[] = {
-        {GAN_RADIAL_DISTORTION_1, true, GAN_RADIAL_DISTORTION_1, {0.125, 0, 0, 0}},
-        {GAN_RADIAL_DISTORTION_1_INV, true, GAN_RADIAL_DISTORTION_1_INV, {0.125, 0, 0, 0}},
-        {GAN_RADIAL_DISTORTION_2, true, GAN_RADIAL_DISTORTION_2, {0.125, -0.25, 0, 0}},
-        {GAN_XY_DISTORTION_4, true, GAN_XY_DISTORTION_4, {0.5, -0.75, 1.5, -2.0}},
-        {GAN_RADIAL_DISTORTION_3, true, GAN_RADIAL_DISTORTION_3, {0, 0, 0, 0}},
-        {GAN_RADIAL_DISTORTION_2, false, GAN_LINEAR_CAMERA, {0, 0, 0, 0}}, // inactive: linear, no slot written
-    };
-    for (auto const& row : rows) {
-        Gan_Camera const camera = lens(row.type, row.bActive).toGanCamera(QSize(2000, 1000), 20.0, 2.0, false, false);
-        EXPECT_EQ(row.expectedType, camera.type) << row.type;
-        EXPECT_EQ(row.d, (std::array<double, 4>{camera.d[0], camera.d[1], camera.d[2], camera.d[3]})) << row.type;
-        EXPECT_DOUBLE_EQ(0.45f * 2000.0, camera.x0);
-        EXPECT_DOUBLE_EQ(0.55f * 1000.0, camera.y0);
-        EXPECT_DOUBLE_EQ(35.0 * 2000.0 / 20.0, camera.fx);
-        EXPECT_DOUBLE_EQ(2.0 * camera.fx, camera.fy);
-        EXPECT_TRUE(camera.zh == 1000.0 && camera.point_project) << "internalised";
-    }
-    TQ::Camera maps = lens(GAN_DISTORTION_MAP, true);
-    maps.directMap = boost::make_shared<Gan_Image>();
-    maps.inverseMap = boost::make_shared<Gan_Image>();
-    Gan_Camera const mapped = TQ::Camera(maps).toGanCamera(QSize(100, 50), 10.0, 1.0, false, false);
-    EXPECT_TRUE(mapped.map.direct == maps.directMap.get() && mapped.map.inverse == maps.inverseMap.get())
-        << "copies share the images";
-
-    // Fields halve fy, and the second field moves down by half a row.
-    for (auto [mode, uiFrame, bHalved, dShift] :
-         {std::tuple{TQ_INTERLACE_NONE, 3u, false, 0.0}, {TQ_INTERLACE_FIELDS_1, 3u, true, 0.5},
-          {TQ_INTERLACE_FIELDS_1, 4u, true, 0.0}, {TQ_INTERLACE_FIELDS_2, 3u, true, 0.0},
-          {TQ_INTERLACE_FIELDS_2, 4u, true, 0.5}, {TQ_INTERLACE_PULLDOWN_FIRST, 3u, false, 0.0}}) {
-        TQ_BaseClipInfo const info = clipOf(1920, 1080, mode, 24.0, 1.25);
-        Gan_Camera const gan = lens(GAN_LINEAR_CAMERA, true).toGanCamera(uiFrame, info);
-        double const fx = 35.0 * 1920.0 / 24.0;
-        EXPECT_DOUBLE_EQ(fx, gan.fx);
-        EXPECT_DOUBLE_EQ(fx * 1.25 * (bHalved ? 0.5 : 1.0), gan.fy) << mode << " " << uiFrame;
-        EXPECT_DOUBLE_EQ(0.55f * 1080.0 + dShift, gan.y0) << mode << " " << uiFrame;
-    }
-}
-
-TEST(Camera, UpdateInvertsToGanCameraForItsOwnModel)
-{
-    // What update takes back beyond the centre and focal length: the coefficients of its own model only
-    // (radialK1, radialK2, cxx, cxy, cyx, cyy).
-    struct {
-        Gan_CameraType type;
-        bool bActive;
-        std::array<float, 6> expected;
-    } const rows[] = {
-        {GAN_LINEAR_CAMERA, true, {0, 0, 0, 0, 0, 0}},
-        {GAN_RADIAL_DISTORTION_1, true, {0.125f, 0, 0, 0, 0, 0}},
-        {GAN_RADIAL_DISTORTION_1_INV, true, {0.125f, 0, 0, 0, 0, 0}},
-        {GAN_RADIAL_DISTORTION_2, true, {0.125f, -0.25f, 0, 0, 0, 0}},
-        {GAN_XY_DISTORTION_4, true, {0, 0, 0.5f, -0.75f, 1.5f, -2.0f}},
-        {GAN_RADIAL_DISTORTION_2, false, {0, 0, 0, 0, 0, 0}},
-        {GAN_DISTORTION_MAP, true, {0, 0, 0, 0, 0, 0}},
+        {GAN_LINEAR_CAMERA, true, GAN_LINEAR_CAMERA, {0, 0, 0, 0}, {0, 0, 0, 0, 0, 0}},
+        {GAN_RADIAL_DISTORTION_1, true, GAN_RADIAL_DISTORTION_1, {0.125, 0, 0, 0}, {0.125f, 0, 0, 0, 0, 0}},
+        {GAN_RADIAL_DISTORTION_1_INV, true, GAN_RADIAL_DISTORTION_1_INV, {0.125, 0, 0, 0}, {0.125f, 0, 0, 0, 0, 0}},
+        {GAN_RADIAL_DISTORTION_2, true, GAN_RADIAL_DISTORTION_2, {0.125, -0.25, 0, 0}, {0.125f, -0.25f, 0, 0, 0, 0}},
+        {GAN_RADIAL_DISTORTION_3, true, GAN_RADIAL_DISTORTION_3, {0, 0, 0, 0}, {0, 0, 0, 0, 0, 0}},
+        {GAN_XY_DISTORTION_4, true, GAN_XY_DISTORTION_4, {0.5, -0.75, 1.5, -2.0}, {0, 0, 0.5f, -0.75f, 1.5f, -2.0f}},
+        {GAN_RADIAL_DISTORTION_2, false, GAN_LINEAR_CAMERA, {0, 0, 0, 0}, {0, 0, 0, 0, 0, 0}}, // no slot written
+        {GAN_DISTORTION_MAP, true, GAN_DISTORTION_MAP, {}, {0, 0, 0, 0, 0, 0}}, // slots hold the images
     };
     auto const image = boost::make_shared<Gan_Image>();
-    for (auto const& row : rows)
-        for (_TQ_INTERLACE_MODE mode : {TQ_INTERLACE_NONE, TQ_INTERLACE_FIELDS_1, TQ_INTERLACE_FIELDS_2})
-            for (unsigned int frame : {10u, 11u}) {
-                TQ_BaseClipInfo const info = clipOf(1920, 1080, mode, 24.0, 1.25);
-                TQ::Camera const source = lens(row.type, true);
-                Gan_Camera gan = source.toGanCamera(frame, info);
-                TQ::Camera back;
-                back.type = row.type;
-                back.distortionActive = row.bActive;
-                back.directMap = image;
-                back.update(&gan, frame, &info);
-                SCOPED_TRACE(testing::Message() << row.type << " " << mode << " " << frame);
-                EXPECT_FLOAT_EQ(source.imageCentreX, back.imageCentreX);
-                EXPECT_FLOAT_EQ(source.imageCentreY, back.imageCentreY);
-                EXPECT_FLOAT_EQ(source.focalDistance, back.focalDistance);
-                EXPECT_EQ(row.expected, (std::array<float, 6>{back.radialK1, back.radialK2, back.cxx, back.cxy,
-                                                              back.cyx, back.cyy}));
-                EXPECT_TRUE(back.type == row.type && back.distortionActive == row.bActive && back.directMap == image);
-                back.update(nullptr, frame, &info); // nothing to read: harmless
-                back.update(&gan, frame, nullptr);
-            }
+    for (auto const& row : rows) {
+        TQ::Camera source = lens(row.type, row.bActive);
+        source.directMap = image;
+        source.inverseMap = boost::make_shared<Gan_Image>();
+        Gan_Camera const plain = source.toGanCamera(QSize(2000, 1000), 20.0, 2.0, false, false);
+        EXPECT_EQ(row.ganType, plain.type) << row.type;
+        if (row.type == GAN_DISTORTION_MAP)
+            EXPECT_TRUE(plain.map.direct == image.get() && plain.map.inverse == source.inverseMap.get());
+        else
+            EXPECT_EQ(row.d, (std::array<double, 4>{plain.d[0], plain.d[1], plain.d[2], plain.d[3]})) << row.type;
+        EXPECT_DOUBLE_EQ(0.45f * 2000.0, plain.x0);
+        EXPECT_DOUBLE_EQ(35.0 * 2000.0 / 20.0, plain.fx);
+        EXPECT_DOUBLE_EQ(2.0 * plain.fx, plain.fy);
+        EXPECT_TRUE(plain.zh == 1000.0 && plain.point_project) << "internalised";
+
+        // Through a clip: fields halve fy and move the second field down by half a row; update undoes it,
+        // reading the slots only for an active lens.
+        for (auto [mode, frame, bHalved, dShift] :
+             {std::tuple{TQ_INTERLACE_NONE, 3u, false, 0.0}, {TQ_INTERLACE_FIELDS_1, 3u, true, 0.5},
+              {TQ_INTERLACE_FIELDS_1, 4u, true, 0.0}, {TQ_INTERLACE_FIELDS_2, 3u, true, 0.0},
+              {TQ_INTERLACE_FIELDS_2, 4u, true, 0.5}, {TQ_INTERLACE_PULLDOWN_FIRST, 3u, false, 0.0}}) {
+            SCOPED_TRACE(testing::Message() << row.type << " " << mode << " " << frame);
+            TQ_BaseClipInfo const info = clipOf(1920, 1080, mode, 24.0, 1.25);
+            Gan_Camera gan = lens(row.type, true).toGanCamera(frame, info); // slots filled for every row
+            double const fx = 35.0 * 1920.0 / 24.0;
+            EXPECT_DOUBLE_EQ(fx, gan.fx);
+            EXPECT_DOUBLE_EQ(fx * 1.25 * (bHalved ? 0.5 : 1.0), gan.fy);
+            EXPECT_DOUBLE_EQ(0.55f * 1080.0 + dShift, gan.y0);
+            TQ::Camera back;
+            back.type = row.type;
+            back.distortionActive = row.bActive;
+            back.directMap = image;
+            back.update(&gan, frame, &info);
+            EXPECT_FLOAT_EQ(source.imageCentreX, back.imageCentreX);
+            EXPECT_FLOAT_EQ(source.imageCentreY, back.imageCentreY);
+            EXPECT_FLOAT_EQ(source.focalDistance, back.focalDistance);
+            EXPECT_EQ(row.back, (std::array<float, 6>{back.radialK1, back.radialK2, back.cxx, back.cxy, back.cyx,
+                                                      back.cyy}));
+            EXPECT_TRUE(back.type == row.type && back.distortionActive == row.bActive && back.directMap == image);
+            back.update(nullptr, frame, &info); // nothing to read: harmless
+            back.update(&gan, frame, nullptr);
+        }
+    }
 }
