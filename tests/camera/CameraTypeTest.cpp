@@ -1,10 +1,14 @@
 #include "bsc/Licence.h"
 #include "camera/CameraType.h"
+#include "camera/CameraTypeParameter.h"
 #include "camera/CriticalCapture.h"
 
 #include <gtest/gtest.h>
 
+#include <QVariant>
+
 #include <cstdlib>
+#include <tuple>
 
 using TQ::CameraType;
 
@@ -35,25 +39,27 @@ TEST(CameraType, InstancesAndOfferedTable)
     EXPECT_EQ(names, CameraType::ALL_NAMES());
     EXPECT_EQ(QList<int>({0, 1, 2, 3, 4, 5}), CameraType::s_allTypes().keys());
     EXPECT_EQ(&CameraType::s_allTypes(), &CameraType::s_allTypes());
+
+    // A parameter of the model streams its number and carries its variant type.
+    Prm::Parameter<Gan_CameraType> type(false, "Type", GAN_LINEAR_CAMERA, Prm::InterpolationStep,
+                                        Prm::ExtrapolationHold);
+    EXPECT_TRUE(type.streamInValue("value=2", {}));
+    EXPECT_TRUE(type.staticValue() == GAN_RADIAL_DISTORTION_2 && type.valueString(0.0f, nullptr) == "2");
+    EXPECT_STREQ(type.exportValueAt(0.0f).typeName(), "Gan_CameraType");
 }
 
 TEST(CameraType, UnknownIdsAndModelsReadAsLinearWithAMessage)
 {
-    struct Row {
-        bool bById;
-        int iValue;
-        char const* message;
-    };
-    Row const rows[] = {{true, 6, "CameraType::fromId(): invalid id 6 "},
-                        {true, -1, "CameraType::fromId(): invalid id -1 "},
-                        {false, 3, "CameraType::fromGandalf(): no camera type found for Gandalftype 3 "},
-                        {false, 10, "CameraType::fromGandalf(): no camera type found for Gandalftype 10 "}};
-    for (Row const& row : rows) {
+    for (auto [bById, iValue, message] :
+         {std::tuple{true, 6, "CameraType::fromId(): invalid id 6 "},
+          {true, -1, "CameraType::fromId(): invalid id -1 "},
+          {false, 3, "CameraType::fromGandalf(): no camera type found for Gandalftype 3 "},
+          {false, 10, "CameraType::fromGandalf(): no camera type found for Gandalftype 10 "}}) {
         CriticalCapture capture;
-        CameraType const& type = row.bById ? CameraType::fromId(row.iValue)
-                                           : CameraType::fromGandalf(static_cast<Gan_CameraType>(row.iValue));
+        CameraType const& type =
+            bById ? CameraType::fromId(iValue) : CameraType::fromGandalf(static_cast<Gan_CameraType>(iValue));
         EXPECT_EQ(&CameraType::LINEAR(), &type);
-        EXPECT_EQ(QStringList{row.message}, capture.messages());
+        EXPECT_EQ(QStringList{message}, capture.messages());
     }
 }
 

@@ -33,55 +33,45 @@ TEST(FilmType, AspectIndexOrderAndTable)
         EXPECT_EQ(r.dRatio, film(r.name).getFilmBackAspectRatio()) << r.name;
 
     QList<QString> const names = TQ_FilmTypeFactory::getAllNames();
-    ASSERT_EQ(30, names.size());
-    EXPECT_EQ("PAL", names.first());
-    EXPECT_EQ("70mm IMAX", names[28]);
-    EXPECT_EQ("Custom", names.last());
-    EXPECT_EQ(30u, TQ_FilmTypeFactory::getInstance().size());
+    ASSERT_TRUE(names.size() == 30 && TQ_FilmTypeFactory::getInstance().size() == 30);
+    EXPECT_TRUE(names.first() == "PAL" && names[28] == "70mm IMAX" && names.last() == "Custom");
     EXPECT_EQ("Custom", TQ_FilmTypeFactory::names().Custom);
     EXPECT_EQ("Flat 1.85:1", TQ_FilmTypeFactory::names().Flat185);
 
     EXPECT_EQ(14.939099999999998, film("CS4 D1 NTSC").filmBackHeight);
     EXPECT_EQ(14.754666666666665, film("CS4 DV NTSC").filmBackHeight);
     TQ::FilmType const hd = film("HD");
-    EXPECT_EQ(QSize(1280, 720), hd.uiSize(1));
-    EXPECT_EQ(QSize(640, 480), hd.uiSize(2));
-    EXPECT_EQ(QSize(0, 0), hd.uiSize(3));
+    EXPECT_TRUE(hd.uiSize(1) == QSize(1280, 720) && hd.uiSize(2) == QSize(640, 480) && hd.uiSize(3) == QSize(0, 0));
     EXPECT_TRUE(film("NTSC Anamorphic").anamorphic);
-    EXPECT_FALSE(film("pal").isValid());
-    EXPECT_TRUE(film("pal").name.isNull());
+    EXPECT_TRUE(!film("pal").isValid() && film("pal").name.isNull());
 }
 
 TEST(FilmType, ValueOperations)
 {
-    TQ::FilmType const invalid;
-    EXPECT_FALSE(invalid.isValid());
-    EXPECT_FALSE(invalid.isCustom());
-    EXPECT_TRUE(invalid.name.isNull());
-    TQ::FilmType const custom(4.0, 3.0);
-    EXPECT_TRUE(custom.isCustom() && custom.isValid());
-    EXPECT_EQ(QSize(0, 0), custom.uiSize(0));
-    EXPECT_TRUE(film("Custom").isCustom() && film("Custom").isValid());
-    EXPECT_FALSE(TQ::FilmType(0.0, 3.0).isValid());
-    EXPECT_FALSE(TQ::FilmType(4.0, 0.0).isValid());
+    EXPECT_TRUE(TQ::FilmType(4.0, 3.0).isCustom() && !TQ::FilmType().isCustom() && film("Custom").isCustom());
+    EXPECT_FALSE(TQ::FilmType().isValid() || TQ::FilmType(0.0, 3.0).isValid() || TQ::FilmType(4.0, 0.0).isValid());
 
     TQ::FilmType const pal = film("PAL");
     double const dRatio = 576.0 * (20.12 / 15.09) / 720.0;
-    EXPECT_EQ(dRatio, pal.pixelAspectRatio(QSize(720, 576)));
-    EXPECT_EQ(dRatio, pal.defPixelAspectRatio());
+    EXPECT_TRUE(pal.pixelAspectRatio(QSize(720, 576)) == dRatio && pal.defPixelAspectRatio() == dRatio);
     EXPECT_EQ(dRatio, pal.pixelAspectRatio(QSize(720, 576), false));
     EXPECT_EQ(288.0 * (20.12 / 15.09) / 720.0 * 2.0, pal.pixelAspectRatio(QSize(720, 288), true));
-    EXPECT_EQ(0.0, film("16mm").defPixelAspectRatio());
-    EXPECT_EQ(0.0, film("70mm IMAX").defPixelAspectRatio());
+    EXPECT_TRUE(film("16mm").defPixelAspectRatio() == 0.0 && film("70mm IMAX").defPixelAspectRatio() == 0.0);
 
     for (auto [name, h, bMatch] : {std::tuple{"PAL", 576, true}, {"PAL", 0, true}, {"PAL", 480, false},
                                    {"16mm", 428, false}})
         EXPECT_EQ(bMatch, filmTypeMatchesHeight(film(name), h)) << name << " " << h;
     for (auto [w, h, bMatch] : {std::tuple{720, 480, true}, {720, 576, false}, {0, 0, true}})
         EXPECT_EQ(bMatch, filmTypeMatchesSize(film("NTSC"), QSize(w, h))) << w << "x" << h;
+
+    EXPECT_EQ(0.0, TQ_FilmTypeFactory::requiredFilmAspectFromParAndDims(1.0, QSize(0, 10)));
+    EXPECT_EQ(0.0, TQ_FilmTypeFactory::requiredFilmAspectFromParAndDims(1.0, QSize(10, 0)));
+    EXPECT_EQ(2.0 * (3.0 / 7.0), TQ_FilmTypeFactory::requiredFilmAspectFromParAndDims(2.0, QSize(3, 7)));
+    // A custom type's width is the pixel aspect ratio times the width, halved for fields.
+    EXPECT_EQ(75.0, TQ_FilmTypeFactory::customTypeForParAndDims(1.5, QSize(100, 50), true).filmBackWidth);
 }
 
-TEST(FilmType, BestMatchForSize)
+TEST(FilmType, BestMatchForSizeAndPAR)
 {
     struct { int w, h; bool doubled; char const* name; } const rows[] = {
         {1920, 1080, false, "HD"}, {1440, 1080, false, "HDV"}, {1000, 1080, false, "DVCPRO HD 1080"},
@@ -96,10 +86,7 @@ TEST(FilmType, BestMatchForSize)
         else
             EXPECT_TRUE(name.isNull());
     }
-}
 
-TEST(FilmType, BestMatchForPAR)
-{
     auto match = [](double par, int w, int h, bool doubled) {
         return TQ_FilmTypeFactory::bestMatchForPAR(par, QSize(w, h), doubled);
     };
@@ -129,21 +116,4 @@ TEST(FilmType, BestMatchForPAR)
         {0.0, 720, 576}, {-1.0, 720, 576}, {1.0, 0, 576}, {1.0, 720, 0}, {std::nan(""), 720, 576}};
     for (auto const& r : invalid)
         EXPECT_FALSE(match(r.par, r.w, r.h, false).isValid()) << r.par << " " << r.w << "x" << r.h;
-}
-
-TEST(FilmType, CustomHelpers)
-{
-    EXPECT_EQ(0.0, TQ_FilmTypeFactory::requiredFilmAspectFromParAndDims(1.0, QSize(0, 10)));
-    EXPECT_EQ(0.0, TQ_FilmTypeFactory::requiredFilmAspectFromParAndDims(1.0, QSize(10, 0)));
-    EXPECT_EQ(2.0 * (3.0 / 7.0), TQ_FilmTypeFactory::requiredFilmAspectFromParAndDims(2.0, QSize(3, 7)));
-
-    auto custom = [](double par, int h, bool doubled) {
-        return TQ_FilmTypeFactory::customTypeForParAndDims(par, QSize(100, h), doubled);
-    };
-    EXPECT_EQ(75.0, custom(1.5, 50, true).filmBackWidth);
-    EXPECT_EQ(50.0, custom(1.5, 50, true).filmBackHeight);
-    EXPECT_EQ(150.0, custom(1.5, 50, false).filmBackWidth);
-    EXPECT_FALSE(custom(0.0, 50, false).isValid());
-    EXPECT_FALSE(custom(1.0, 0, false).isValid());
-    EXPECT_FALSE(custom(1.0, 0, false).isCustom());
 }

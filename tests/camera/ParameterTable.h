@@ -31,21 +31,16 @@ inline void expectParameterTable(Prm::ParameterSet const& set, std::vector<Param
     for (std::size_t i = 0; i < rows.size(); ++i) {
         ParameterRow const& row = rows[i];
         Prm::ParameterWithoutType const& parameter = *parameters[int(i)];
-        std::string const where = row.name.toStdString();
-        EXPECT_EQ(row.name, parameter.qstrScriptName()) << "position " << i;
-        EXPECT_EQ(row.name, parameter.qstrDisplayName()) << where;
-        EXPECT_EQ(row.bKeyed, parameter.isKeyframed()) << where;
-        EXPECT_EQ(row.value, parameter.valueString(0.0f, nullptr)) << where;
-        if (row.bKeyed) {
-            EXPECT_EQ(row.interpolation, parameter.interpolation(0.0f)) << where;
-        }
-        EXPECT_EQ(row.extrapolation, parameter.extrapolationBefore()) << where;
-        EXPECT_EQ(row.extrapolation, parameter.extrapolationAfter()) << where;
+        SCOPED_TRACE(testing::Message() << "position " << i << ": " << row.name.toStdString());
+        EXPECT_TRUE(row.name == parameter.qstrScriptName() && row.name == parameter.qstrDisplayName());
+        EXPECT_EQ(row.bKeyed, parameter.isKeyframed());
+        EXPECT_EQ(row.value, parameter.valueString(0.0f, nullptr));
+        EXPECT_TRUE(!row.bKeyed || row.interpolation == parameter.interpolation(0.0f));
+        EXPECT_TRUE(row.extrapolation == parameter.extrapolationBefore()
+                    && row.extrapolation == parameter.extrapolationAfter());
         auto const* numeric = dynamic_cast<Prm::NumericParameterWithoutType const*>(&parameter);
-        EXPECT_EQ(!std::isnan(row.dMinimum), numeric != nullptr) << where;
-        if (numeric && !std::isnan(row.dMinimum)) {
-            EXPECT_EQ(row.dMinimum, numeric->minAsDouble()) << where;
-            EXPECT_EQ(row.dMaximum, numeric->maxAsDouble()) << where;
-        }
+        EXPECT_EQ(!std::isnan(row.dMinimum), numeric != nullptr);
+        EXPECT_TRUE(!numeric || std::isnan(row.dMinimum)
+                    || (row.dMinimum == numeric->minAsDouble() && row.dMaximum == numeric->maxAsDouble()));
     }
 }
