@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QTextStream>
-
 #include <cmath>
 #include <cstring>
 #include <functional>
@@ -32,19 +30,9 @@ TQ_ColourspaceParameters withTables(float gamma)
 
 } // namespace
 
-TEST(ColourspaceParameters, DefaultsAndConversion)
+TEST(ColourspaceParameters, ConversionRequired)
 {
     TQ_ColourspaceParameters c;
-    EXPECT_EQ("Colorspace", c.qstrScriptName());
-    for (void const* table : tablesOf(c))
-        EXPECT_EQ(nullptr, table);
-    // Nothing registered: the set writes nothing of its own.
-    QString text;
-    QTextStream out(&text);
-    EXPECT_TRUE(c.bStreamOut(out, "P.", true));
-    EXPECT_TRUE(text.isEmpty());
-    EXPECT_FALSE(c.bStreamIn("Gamma.value=2"));
-
     struct Case { float gamma; int colourspace; _TQ_BOOL floatFormat; _TQ_BOOL eightBit; bool expected; };
     Case const cases[] = {
         {1.0f, 0, TQ_FALSE, TQ_FALSE, false}, {1.0000005f, 0, TQ_FALSE, TQ_FALSE, false},
