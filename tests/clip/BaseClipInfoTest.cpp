@@ -78,63 +78,43 @@ TEST(BaseClipInfo, TextOrderAndRoundTrip)
     EXPECT_FALSE(target.bStreamIn("NoSuchField.value=1"));
 }
 
-TEST(BaseClipInfo, NumberOfFramesTable)
+TEST(BaseClipInfo, FramesForFilesAndFilesForFrames)
 {
-    // Per mode, the frames for 10 + r files (b = 8), r = 0..4.
-    struct Row { QVector<int> modes; unsigned int frames[5]; };
-    QVector<Row> const rows = {
-        {{0, 13}, {10, 11, 12, 13, 14}},
-        {{1, 2}, {20, 22, 24, 26, 28}},
-        {{3, 8}, {8, 9, 10, 10, 11}},
-        {{4, 9}, {8, 9, 9, 10, 11}},
-        {{5, 6, 10, 11}, {7, 8, 9, 10, 11}},
-        {{7, 12}, {8, 9, 10, 11, 11}},
-        {{14, -1, 100}, {uiNone, uiNone, uiNone, uiNone, uiNone}},
+    // Per mode, the frames for 10 + r files (b = 8), r = 0..4, and the files for 8 + r frames (b = 10), r = 0..3.
+    struct Row { QVector<int> modes; unsigned int frames[5], files[4]; };
+    Row const rows[] = {
+        {{0, 13}, {10, 11, 12, 13, 14}, {8, 9, 10, 11}},
+        {{1, 2}, {20, 22, 24, 26, 28}, {4, uiNone, 5, uiNone}},
+        {{3, 8}, {8, 9, 10, 10, 11}, {10, 11, 12, 13}},
+        {{4, 9}, {8, 9, 9, 10, 11}, {10, 11, 12, 14}},
+        {{5, 6, 10, 11}, {7, 8, 9, 10, 11}, {10, 11, 12, 13}},
+        {{7, 12}, {8, 9, 10, 11, 11}, {9, 11, 12, 13}},
+        {{14, -1, 100}, {uiNone, uiNone, uiNone, uiNone, uiNone}, {uiNone, uiNone, uiNone, uiNone}},
     };
     for (Row const& row : rows) {
         for (int iMode : row.modes) {
             TQ_BaseClipInfo const clip = withMode(iMode);
             for (unsigned int r = 0; r < 5; ++r)
                 EXPECT_EQ(row.frames[r], clip.uiGetNumberOfFrames(10 + r)) << "mode " << iMode << " r " << r;
+            for (unsigned int r = 0; r < 4; ++r)
+                EXPECT_EQ(row.files[r], clip.uiGetNumberOfPulldownFiles(8 + r)) << "mode " << iMode << " r " << r;
         }
     }
-    // The unguarded b - 1 wraps for zero files; the other pulldown rows give 0.
-    struct { int iMode; unsigned int uiFiles, uiFrames; } const edges[] = {
-        {5, 0, uiNone}, {11, 0, uiNone}, {3, 0, 0}, {3, 5, 4}, {3, 7, 6}, {3, 8, 6}, {1, 0x80000000u, 0}};
-    for (auto const& e : edges)
-        EXPECT_EQ(e.uiFrames, withMode(e.iMode).uiGetNumberOfFrames(e.uiFiles)) << e.iMode << " " << e.uiFiles;
-
+    // Only the frames' b - 1 is unguarded, and wraps for zero files.
+    struct { int iMode; unsigned int uiIn, uiFrames, uiFiles; } const edges[] = {
+        {5, 0, uiNone, 0}, {11, 0, uiNone, 0}, {3, 0, 0, 0}, {7, 0, 0, 0}, {12, 0, 0, 0}, {3, 5, 4, 6},
+        {3, 3, 2, 3}, {4, 3, 2, 4}, {7, 4, 3, 4}, {3, 7, 6, 8}, {3, 8, 6, 10}, {1, 7, 14, uiNone},
+        {1, 0x80000000u, 0, 0x40000000u}};
+    for (auto const& e : edges) {
+        EXPECT_EQ(e.uiFrames, withMode(e.iMode).uiGetNumberOfFrames(e.uiIn)) << e.iMode << " " << e.uiIn;
+        EXPECT_EQ(e.uiFiles, withMode(e.iMode).uiGetNumberOfPulldownFiles(e.uiIn)) << e.iMode << " " << e.uiIn;
+    }
     TQ_BaseClipInfo clip = withMode(20);
     clip.setNumImageFilesInClip(10);
     EXPECT_EQ(uiNone, clip.getClipLength());
     clip.eInterlaceMode = _TQ_INTERLACE_MODE(4);
     clip.setNumImageFilesInClip(12);
     EXPECT_EQ(9u, clip.getClipLength());
-}
-
-TEST(BaseClipInfo, NumberOfPulldownFilesTable)
-{
-    // Per mode, the files for 8 + r frames (b = 10), r = 0..3.
-    struct Row { QVector<int> modes; unsigned int files[4]; };
-    QVector<Row> const rows = {
-        {{0, 13}, {8, 9, 10, 11}},
-        {{1, 2}, {4, uiNone, 5, uiNone}},
-        {{3, 5, 6, 8, 10, 11}, {10, 11, 12, 13}},
-        {{4, 9}, {10, 11, 12, 14}},
-        {{7, 12}, {9, 11, 12, 13}},
-        {{14, -3}, {uiNone, uiNone, uiNone, uiNone}},
-    };
-    for (Row const& row : rows) {
-        for (int iMode : row.modes) {
-            TQ_BaseClipInfo const clip = withMode(iMode);
-            for (unsigned int r = 0; r < 4; ++r)
-                EXPECT_EQ(row.files[r], clip.uiGetNumberOfPulldownFiles(8 + r)) << "mode " << iMode << " r " << r;
-        }
-    }
-    struct { int iMode; unsigned int uiFrames, uiFiles; } const edges[] = {
-        {4, 3, 4}, {3, 3, 3}, {7, 4, 4}, {7, 0, 0}, {12, 0, 0}, {5, 0, 0}, {1, 7, uiNone}};
-    for (auto const& e : edges)
-        EXPECT_EQ(e.uiFiles, withMode(e.iMode).uiGetNumberOfPulldownFiles(e.uiFrames)) << e.iMode << " " << e.uiFrames;
 }
 
 TEST(BaseClipInfo, SetFilmTypeDoublesOnlyForFieldModes)

