@@ -1,8 +1,8 @@
 #include "clip/ClipInfo.h"
-#include "prm/basic/BasicParameter.h"
 
 #include <gtest/gtest.h>
 
+#include <QRegularExpression>
 #include <QStringList>
 #include <QTextStream>
 
@@ -62,18 +62,13 @@ void vSetStreamedMembers(TQ_ClipInfo& clip)
     c.eightBitFormat = TQ_TRUE;
 }
 
-QStringList const sequenceNames = {"ClipDirectory", "ClipPrefix", "ClipSuffix", "MinimumIndex", "MaximumIndex",
-                                   "IndexWidth"};
-
 } // namespace
 
 TEST(ClipInfo, DefaultsTextOrderAndTheSequenceParameters)
 {
     TQ_ClipInfo clip;
     EXPECT_EQ(10, clip.sourceDataType);
-    EXPECT_EQ(GAN_UNDEFINED_TYPE, clip.imageHeaderInfo.type);
-    EXPECT_TRUE(clip.ClipDirectory.isNull());
-    QStringList const expected = {
+    QStringList expected = {
         "ReadOnly.value=0", "Hidden.value=0", "DiscreteFrames.value=0", "Predefined.value=0",
         "ClipDirectory.value=\"\"", "ClipPrefix.value=\"\"", "ClipSuffix.value=\"\"", "MinimumIndex.value=0",
         "MaximumIndex.value=0", "IndexWidth.value=0", "SingleFrame.value=0", "Colourspace.value=0",
@@ -81,26 +76,14 @@ TEST(ClipInfo, DefaultsTextOrderAndTheSequenceParameters)
         "NativePixelType.value=17", "FloatFormat.value=0", "8BitFormat.value=0", "ImageFormatOfFile.value=13",
         "OriginalImageFormat.value=13", "ImageDataTypeOfFile.value=17", "ProcessBits.value=0",
         "HasIndex.value=0", "Linear.value=0", "Reapply32Pulldown.value=1", "ProxyScale.value=0"};
-    QStringList prefixed;
-    for (QString const& line : expected)
-        prefixed << "P.Core." + line;
-    EXPECT_EQ(prefixed, textOf(clip, "P."));
+    auto const qualified = [](QStringList lines) { return lines.replaceInStrings(QRegularExpression("^"), "P.Core."); };
+    EXPECT_EQ(qualified(expected), textOf(clip, "P."));
 
-    // init(false), and the text of a discrete clip, drop exactly the six sequence parameters.
-    clip.init(false);
-    clip.init(false);
-    QStringList names;
-    for (Prm::BasicParameter const* parameter : clip.basicParameterList())
-        names << parameter->scriptName();
-    QStringList withoutSequence;
-    for (QString const& line : expected.mid(0, 4) + expected.mid(10))
-        withoutSequence << line.section('.', 0, 0);
-    EXPECT_EQ(withoutSequence, names);
+    // A discrete clip, with no list yet, drops exactly the six sequence parameters, as often as it is written.
     clip.DiscreteFrames = TQ_TRUE;
-    QStringList const lines = textOf(clip);
-    EXPECT_EQ(22, lines.size());
-    for (QString const& name : sequenceNames + QStringList{"Frames"})
-        EXPECT_TRUE(lines.filter("." + name + ".").isEmpty()) << name.toStdString();
+    expected[2] = "DiscreteFrames.value=1";
+    EXPECT_EQ(qualified(expected.mid(0, 4) + expected.mid(10)), textOf(clip, "P."));
+    EXPECT_EQ(qualified(expected.mid(0, 4) + expected.mid(10)), textOf(clip, "P."));
 }
 
 TEST(ClipInfo, FirstFileName)
