@@ -76,7 +76,9 @@ TEST(ClipInfo, DefaultsTextOrderAndTheSequenceParameters)
         "NativePixelType.value=17", "FloatFormat.value=0", "8BitFormat.value=0", "ImageFormatOfFile.value=13",
         "OriginalImageFormat.value=13", "ImageDataTypeOfFile.value=17", "ProcessBits.value=0",
         "HasIndex.value=0", "Linear.value=0", "Reapply32Pulldown.value=1", "ProxyScale.value=0"};
-    auto const qualified = [](QStringList lines) { return lines.replaceInStrings(QRegularExpression("^"), "P.Core."); };
+    auto const qualified = [](QStringList lines) {
+        return lines.replaceInStrings(QRegularExpression("^"), "P.Core.");
+    };
     EXPECT_EQ(qualified(expected), textOf(clip, "P."));
 
     // A discrete clip, with no list yet, drops exactly the six sequence parameters, as often as it is written.
@@ -129,11 +131,10 @@ TEST(ClipInfo, DiscreteFrameLinesOut)
     clip.vAppendDiscreteFrame("a, b.tif", 12);
     clip.vAppendDiscreteFrame("\xc3\xa9t\xc3\xa9.exr", 0);
     clip.vAppendDiscreteFrame(longName, 4294967295u);
-    QStringList const lines = textOf(clip, "P.");
-    EXPECT_EQ((QStringList{"P.Core.Frames.keyframes.append( DiscreteFrame( a, b.tif, 12 ) )",
-                           QString::fromUtf8("P.Core.Frames.keyframes.append( DiscreteFrame( \xc3\xa9t\xc3\xa9.exr, 0 ) )"),
-                           "P.Core.Frames.keyframes.append( DiscreteFrame( " + QString(longName) + ", 4294967295 ) )"}),
-              lines.mid(22));
+    QString const line = "P.Core.Frames.keyframes.append( DiscreteFrame( %1, %2 ) )";
+    EXPECT_EQ((QStringList{line.arg("a, b.tif").arg(12), line.arg(QString::fromUtf8("\xc3\xa9t\xc3\xa9.exr")).arg(0),
+                           line.arg(QString(longName)).arg(4294967295u)}),
+              textOf(clip, "P.").mid(22));
 
     // Frame lines are qualified by the set's name whatever the flag says; no name, no dot.
     QString unqualified;

@@ -239,6 +239,7 @@ TEST(LookupTable, FloatInputTablesLookUpThroughTheirFiveFloats)
 TEST(LookupTable, FloatOutputMembersRefuseFloatInputWithOneTraceEntry)
 {
     float u[5] = {};
+    float* const v = u + 4;
     std::vector<float> forward(256, 0.5f), table(4, 9.0f);
     float* const t = table.data();
     float* const f = forward.data();
@@ -246,10 +247,10 @@ TEST(LookupTable, FloatOutputMembersRefuseFloatInputWithOneTraceEntry)
     // already set entry 0.
     struct Case { int line; std::function<bool(float*)> build; float entry0; };
     Case const cases[] = {
-        {474, [&](float* p) { return gbCreate32BitFloatLinLogLookup(32, 0, 685, 95, 1, 0, p, u, u + 1, u + 2, u + 3, u + 4, f); }, 9.0f},
-        {159, [&](float* p) { return gbCreate32BitFloatLinPanalogLookup(32, p, u, u + 1, u + 2, u + 3, u + 4, f); }, 9.0f},
-        {683, [](float* p) { return gbCreate32BitFloatGammaLookup(32, 2.2f, p); }, 0.0f},
-        {683, [&](float* p) { return gbCreate32BitFloatGammaLookupDummy(32, 2.2f, p, u, u + 1, u + 2, u + 3, u + 4, f); }, 0.0f},
+        {474, [&](float* p) { return gbCreate32BitFloatLinLogLookup(32, 0, 685, 95, 1, 0, p, u, u, u, u, v, f); }, 9},
+        {159, [&](float* p) { return gbCreate32BitFloatLinPanalogLookup(32, p, u, u + 1, u + 2, u + 3, v, f); }, 9},
+        {683, [](float* p) { return gbCreate32BitFloatGammaLookup(32, 2.2f, p); }, 0},
+        {683, [&](float* p) { return gbCreate32BitFloatGammaLookupDummy(32, 2.2f, p, u, u, u, u, v, f); }, 0},
     };
     for (Case const& c : cases) {
         for (float* const out : {t, static_cast<float*>(nullptr)}) {

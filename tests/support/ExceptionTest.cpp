@@ -59,7 +59,8 @@ TEST(Exception, DumpsAreRepeatableCopiesKeepTheFieldsAndTheFamilyCatchesAsOne)
         throw TQ_GandalfError("g", 1, "c", "m");
     } catch (std::exception& caught) {
         EXPECT_STREQ(caught.what(), "m");
-        EXPECT_EQ(std::string(dynamic_cast<TQ_Exception&>(caught).Dump()).rfind("===> Gandalf library error.\n", 0), 0u);
+        std::string const dump = dynamic_cast<TQ_Exception&>(caught).Dump();
+        EXPECT_EQ(dump.rfind("===> Gandalf library error.\n", 0), 0u);
     }
 }
 
