@@ -12,6 +12,7 @@
 #include <cstring>
 #include <functional>
 #include <limits>
+#include <numeric>
 #include <vector>
 
 #define NO_FLOAT_INPUT nullptr, nullptr, nullptr, nullptr, nullptr, nullptr
@@ -64,10 +65,13 @@ double dRound(double v)
     return std::trunc(v + 0.5);
 }
 
-template <typename T>
-bool bNonDecreasing(std::vector<T> const& table)
+// A table built by `build` into `entries` entries, as doubles.
+template <typename T, typename Build>
+std::vector<double> vBuilt(int entries, Build build)
 {
-    return std::is_sorted(table.begin(), table.end());
+    std::vector<T> table(entries, T(7));
+    EXPECT_TRUE(build(table.data()));
+    return std::vector<double>(table.begin(), table.end());
 }
 
 struct TwoSegments {
@@ -100,102 +104,85 @@ void vExpectLookups(std::vector<T> const& table, TwoSegments const& s, std::func
 
 } // namespace
 
-TEST(LookupTable, LogToLinear)
+TEST(LookupTable, LimitsRoundingAndQuirksOfEachCurve)
 {
-    std::vector<unsigned short> table(65536, 7);
-    ASSERT_TRUE(gbCreate16BitLogLinLookup(16, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, table.data()));
-    // Zero up to code 95 (index 95 * 64), saturated from code 685, the rounded curve between.
-    EXPECT_EQ(0, *std::max_element(table.begin(), table.begin() + 6081));
-    EXPECT_EQ(65535, *std::min_element(table.begin() + 43840, table.end()));
-    EXPECT_TRUE(table[6200] > 0 && table[43839] < 65535 && bNonDecreasing(table));
-    for (int i : {6500, 20000, 30000, 43000})
-        EXPECT_EQ(table[i], dRound(defaultFilm16.curve(i / 64.0))) << i;
+    using U8 = unsigned char;
+    using U16 = unsigned short;
+    auto const log16 = vBuilt<U16>(65536, [](U16* t) { return gbCreate16BitLogLinLookup(16, 0, 685, 95, 1, 0, t); });
+    auto const soft = vBuilt<U16>(1024, [](U16* t) { return gbCreate16BitLogLinLookup(10, 0, 685, 95, 1, 20, t); });
+    auto const logFloat = vBuilt<float>(1024, [](float* t) {
+        return gbCreate32BitFloatLogLinLookup(10, 0, 685, 95, 1, 0, t);
+    });
+    auto const toLog = vBuilt<U16>(65536, [](U16* t) {
+        return gbCreate16BitLinLogLookup(16, 0, 685, 95, 1, 0, t, NO_FLOAT_INPUT);
+    });
+    auto const toLogFloat = vBuilt<float>(256, [](float* t) {
+        return gbCreate32BitFloatLinLogLookup(8, 0, 685, 95, 1, 0, t, NO_FLOAT_INPUT);
+    });
+    auto const panalog = vBuilt<U8>(256, [](U8* t) { return gbCreate8BitPanalogLinLookup(8, t, false); });
+    auto const toPanalog8 = vBuilt<U8>(256, [](U8* t) { return gbCreate8BitLinPanalogLookup(8, t, NO_FLOAT_INPUT); });
+    auto const toPanalog = vBuilt<U16>(65536, [](U16* t) {
+        return gbCreate16BitLinPanalogLookup(16, t, NO_FLOAT_INPUT);
+    });
+    auto const panalogFloat = vBuilt<float>(1024, [](float* t) {
+        return gbCreate32BitFloatPanalogLinLookup(10, t, false);
+    });
+    auto const toPanalogFloat = vBuilt<float>(1024, [](float* t) {
+        return gbCreate32BitFloatLinPanalogLookup(10, t, NO_FLOAT_INPUT);
+    });
+    auto const gamma = vBuilt<U16>(65536, [](U16* t) { return gbCreate16BitGammaLookup(16, 2.2f, t, NO_FLOAT_INPUT); });
+
+    // The linear-to-log code is rounded to single precision before it is scaled; the Panalog input is the
+    // index times a single-precision step.
+    double const L = 1.0 / (std::log(10.0) * double(0.002f)), gain = defaultFilm16.gain();
+    float const code = float(std::log((32768.0 + gain - 65535.0) / gain) * L) + 685.0f;
+    auto const toPanalogAt = [](int i) { return dRound(dInversePanalog(float(i) * (6.0f / 65535)) * 64); };
+    double const g = 1.0f / 2.2f;
+    auto const gammaAt = [g](int i) { return dRound(std::pow(i, g) * (65535.0 / std::pow(65535.0f, g))); };
+    Film const softFilm{685, 95, 1, 20, 65535};
+    // Entries [from, to) of a table lie in [lo, hi].
+    struct Range { std::vector<double> const& table; int from, to; double lo, hi; };
+    Range const ranges[] = {
+        {log16, 0, 6081, 0, 0}, {log16, 6200, 43840, 1, 65534}, {log16, 43840, 65536, 65535, 65535},  // code 95, 685
+        {log16, 20000, 20001, dRound(defaultFilm16.curve(312.5)), dRound(defaultFilm16.curve(312.5))},
+        {soft, 600, 601, dRound(softFilm.linear(600)), dRound(softFilm.linear(600))},
+        {soft, 670, 671, dRound(softFilm.linear(670)), dRound(softFilm.linear(670))},
+        {soft, 700, 701, dRound(softFilm.linear(700)), dRound(softFilm.linear(700))},
+        {soft, 685, 686, 0, 65534}, {soft, 1023, 1024, 65535, 65535},  // the shoulder overshoots and is clamped
+        {logFloat, 0, 1, -1, -1e-3}, {logFloat, 1023, 1024, 1.001, 1e8},  // unclipped, and no 1e9 marker
+        {toLog, 0, 1, 95 * 64, 95 * 64}, {toLog, 65535, 65536, 685 * 64, 685 * 64},
+        {toLog, 32768, 32769, dRound(double(code * 64.0f)), dRound(double(code * 64.0f))},
+        {toLogFloat, 0, 256, 0.5, 0.5},  // the float member scales by 0
+        {panalog, 16, 17, 0, 0}, {panalog, 255, 256, 255, 255},  // codes 64 and 1020
+        {panalog, 100, 101, dRound(dPanalog(400.0) * 42.5), dRound(dPanalog(400.0) * 42.5)},
+        {toPanalog8, 0, 1, 16, 16}, {toPanalog8, 255, 256, 255, 255},
+        {toPanalog, 0, 1, 64 * 64, 64 * 64}, {toPanalog, 0, 65536, 0, 65216}, {toPanalog, 65535, 65536, 65216, 65216},
+        {toPanalog, 13636, 13637, toPanalogAt(13636), toPanalogAt(13636)},
+        {toPanalog, 15989, 15990, toPanalogAt(15989), toPanalogAt(15989)},
+        {toPanalog, 30239, 30240, toPanalogAt(30239), toPanalogAt(30239)},
+        {panalogFloat, 0, 1024, 0, 0}, {toPanalogFloat, 0, 1024, 0, 0},  // unless normalised, only zeros
+        {gamma, 0, 1, 0, 0}, {gamma, 1, 2, gammaAt(1), gammaAt(1)}, {gamma, 1000, 1001, gammaAt(1000), gammaAt(1000)},
+        {gamma, 30000, 30001, gammaAt(30000), gammaAt(30000)}, {gamma, 65535, 65536, 65535, 65535},
+    };
+    for (Range const& r : ranges) {
+        auto const [low, high] = std::minmax_element(r.table.begin() + r.from, r.table.begin() + r.to);
+        EXPECT_TRUE(*low >= r.lo && *high <= r.hi) << &r - ranges << ": " << *low << " to " << *high;
+    }
 
     // Reference black above white counts as one below white.
-    std::vector<unsigned char> swapped(1024), explicitBlack(1024), lower(1024);
-    for (auto [black, out] : {std::pair{700.0f, &swapped}, {684.0f, &explicitBlack}, {600.0f, &lower}})
-        ASSERT_TRUE(gbCreate8BitLogLinLookup(10, 0.0f, 685.0f, black, 1.0f, 0.0f, out->data()));
-    EXPECT_TRUE(swapped == explicitBlack && swapped != lower && swapped[684] == 0 && swapped[685] == 255);
+    auto const logWithBlack = [](float black) {
+        return vBuilt<U8>(1024, [&](U8* t) { return gbCreate8BitLogLinLookup(10, 0, 685, black, 1, 0, t); });
+    };
+    EXPECT_TRUE(logWithBlack(700) == logWithBlack(684) && logWithBlack(700) != logWithBlack(600));
 
-    // Soft clip 20 bends the shoulder from code 665; it overshoots and is clamped at the top.
-    std::vector<unsigned short> hard(1024), soft(1024);
-    ASSERT_TRUE(gbCreate16BitLogLinLookup(10, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, hard.data()));
-    ASSERT_TRUE(gbCreate16BitLogLinLookup(10, 0.0f, 685.0f, 95.0f, 1.0f, 20.0f, soft.data()));
-    Film const softFilm{685, 95, 1, 20, 65535};
-    for (int code : {666, 670, 680, 700})
-        EXPECT_EQ(soft[code], dRound(softFilm.linear(code))) << code;
-    EXPECT_TRUE(soft[685] < 65535 && hard[685] == 65535 && soft[1023] == 65535 && soft[600] == hard[600]);
-    EXPECT_TRUE(bNonDecreasing(soft));
-
-    // The float table has no soft clip when none is asked for: the 1e9 marker never shows (the curves
-    // themselves are checked through the clip's tables below).
-    std::vector<float> floats(1024);
-    ASSERT_TRUE(gbCreate32BitFloatLogLinLookup(10, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, floats.data()));
-    EXPECT_TRUE(floats[0] < 0.0f && floats[1023] > 1.0f && floats[1023] < 1e8f);
-}
-
-TEST(LookupTable, LinearToLog)
-{
-    std::vector<unsigned short> toLog(65536);
-    ASSERT_TRUE(gbCreate16BitLinLogLookup(16, 0.0f, 685.0f, 95.0f, 1.0f, 0.0f, toLog.data(), NO_FLOAT_INPUT));
-    EXPECT_TRUE(toLog[0] == 95 * 64 && toLog[65535] == 685 * 64 && bNonDecreasing(toLog));
-    // The code is rounded to single precision before it is scaled.
-    double const L = 1.0 / (std::log(10.0) * double(0.002f));
-    double const gain = defaultFilm16.gain();
-    float const code = float(std::log((32768.0 + gain - 65535.0) / gain) * L) + 685.0f;
-    EXPECT_EQ(toLog[32768], dRound(double(code * 64.0f)));
-
-    // The float member scales by 0 and gives 0.5 everywhere.
-    std::vector<float> floatOut(256, 3.0f);
-    ASSERT_TRUE(gbCreate32BitFloatLinLogLookup(8, 0.0f, 685.0f, 95.0f, 1.0f, 0, floatOut.data(), NO_FLOAT_INPUT));
-    EXPECT_EQ(std::vector<float>(256, 0.5f), floatOut);
-}
-
-TEST(LookupTable, PanalogAndItsFloatMembers)
-{
-    std::vector<unsigned char> toLinear(256), toLog8(256);
-    ASSERT_TRUE(gbCreate8BitPanalogLinLookup(8, toLinear.data(), false));
-    // Index 16 is code 64, index 255 code 1020.
-    EXPECT_TRUE(toLinear[16] == 0 && toLinear[255] == 255 && bNonDecreasing(toLinear));
-    EXPECT_EQ(toLinear[100], dRound(dPanalog(400.0) * 42.5));
-    ASSERT_TRUE(gbCreate8BitLinPanalogLookup(8, toLog8.data(), NO_FLOAT_INPUT));
-    EXPECT_TRUE(toLog8[0] == 16 && toLog8[255] == 255);
-
-    std::vector<unsigned short> toLog(65536);
-    ASSERT_TRUE(gbCreate16BitLinPanalogLookup(16, toLog.data(), NO_FLOAT_INPUT));
-    EXPECT_TRUE(toLog[0] == 64 * 64 && *std::max_element(toLog.begin(), toLog.end()) == 65216);
-    // The input is the index times a single-precision step, multiplied in single precision.
-    for (int i : {13636, 15989, 30239})
-        EXPECT_EQ(toLog[i], dRound(dInversePanalog(float(i) * (6.0f / 65535)) * 64)) << i;
-    EXPECT_TRUE(bNonDecreasing(toLog));
-
-    // The float members give nothing but zeros, unless normalised (checked through the clip's tables below).
-    std::vector<float> table(1024, 3.0f);
-    ASSERT_TRUE(gbCreate32BitFloatPanalogLinLookup(10, table.data(), false));
-    EXPECT_EQ(std::vector<float>(1024, 0.0f), table);
-    table.assign(1024, 3.0f);
-    ASSERT_TRUE(gbCreate32BitFloatLinPanalogLookup(10, table.data(), NO_FLOAT_INPUT));
-    EXPECT_EQ(std::vector<float>(1024, 0.0f), table);
-}
-
-TEST(LookupTable, Gamma)
-{
-    std::vector<unsigned char> t8(256);
-    std::vector<unsigned short> t16(256), curve(65536);
-    std::vector<float> tf(256), dummy(256);
-    ASSERT_TRUE(gbCreate8BitGammaLookup(8, 1.0f, t8.data(), NO_FLOAT_INPUT));
-    ASSERT_TRUE(gbCreate16BitGammaLookup(8, 1.0f, t16.data(), NO_FLOAT_INPUT));
-    ASSERT_TRUE(gbCreate32BitFloatGammaLookup(8, 1.0f, tf.data()));
-    for (int i = 0; i < 256; ++i)
-        ASSERT_TRUE(t8[i] == i && t16[i] == 257 * i && std::abs(tf[i] - i / 255.0f) < 1e-6f) << i;
-
-    ASSERT_TRUE(gbCreate16BitGammaLookup(16, 2.2f, curve.data(), NO_FLOAT_INPUT));
-    double const g = 1.0f / 2.2f;
-    for (int i : {0, 1, 100, 1000, 30000, 65535})
-        EXPECT_EQ(curve[i], dRound(std::pow(i, g) * (65535.0 / std::pow(65535.0f, g)))) << i;
-    ASSERT_TRUE(gbCreate32BitFloatGammaLookupDummy(8, 2.2f, dummy.data(), NO_FLOAT_INPUT));
-    ASSERT_TRUE(gbCreate32BitFloatGammaLookup(8, 2.2f, tf.data()));
-    EXPECT_TRUE(dummy == tf && tf[255] == 1.0f);
+    // Gamma 1 is the identity; the dummy float member is the plain one.
+    std::vector<double> identity(256);
+    std::iota(identity.begin(), identity.end(), 0.0);
+    EXPECT_EQ(identity, vBuilt<U8>(256, [](U8* t) { return gbCreate8BitGammaLookup(8, 1, t, NO_FLOAT_INPUT); }));
+    auto const float8 = vBuilt<float>(256, [](float* t) { return gbCreate32BitFloatGammaLookup(8, 2.2f, t); });
+    EXPECT_EQ(float8, vBuilt<float>(256, [](float* t) {
+        return gbCreate32BitFloatGammaLookupDummy(8, 2.2f, t, NO_FLOAT_INPUT);
+    }));
 }
 
 TEST(LookupTable, FloatInputTablesLookUpThroughTheirFiveFloats)
