@@ -1,12 +1,10 @@
 #include "camera/FilmTypeFactory.h"
-#include "clip/BaseClipInfo.h"
-#include "clip/BaseClipInfoContainer.h"
+#include "clip/Fixtures.h"
 #include "clip/FrameOffsetParameter.h"
 #include "prm/basic/BasicParameter.h"
 
 #include <gtest/gtest.h>
 
-#include <QMap>
 #include <QStringList>
 #include <QTextStream>
 
@@ -170,16 +168,6 @@ TEST(BaseClipInfo, CopiesAndAssignmentsKeepTheirOwnBindings)
 
 namespace {
 
-class Clips : public TQ_BaseClipInfoContainer
-{
-public:
-    TQ_BaseClipInfo* baseClipInfo(unsigned int clipId) override
-    {
-        return clips.contains(clipId) ? &clips[clipId] : nullptr;
-    }
-    QMap<unsigned int, TQ_BaseClipInfo> clips;
-};
-
 PrmFrameOffset makeOffset(TQ_BaseClipInfoContainer* container)
 {
     return PrmFrameOffset(true, "InputRangeMin", 0u, 0u, 4294967295u, Prm::Interpolation(2),
@@ -190,7 +178,7 @@ PrmFrameOffset makeOffset(TQ_BaseClipInfoContainer* container)
 
 TEST(BaseClipInfoFrameOffset, ShiftsByClipOneWrappingAndOnlyWithItsContainer)
 {
-    Clips clips;
+    TQTest::Clips clips;
     clips.clips[1].FirstFrameOffset = 1000;
     clips.clips[2].FirstFrameOffset = 5;
     PrmFrameOffset const offset = makeOffset(&clips);
