@@ -1,5 +1,6 @@
 // The table builders and the tables a clip builds, checked against the curves written out here.
 #include "clip/ClipInfo.h"
+#include "clip/Fixtures.h"
 #include "clip/LookupTableHelperMethods.h"
 #include "gandalf/Error.h"
 
@@ -337,9 +338,8 @@ double dLookUp(T const* table, float const* segments, float x)
 
 int iTablesOf(TQ_ColourspaceParameters const& c)
 {
-    void const* const tables[] = {c.lut16To16Forward, c.lut16To16Inverse, c.lut8To16, c.lut16To8, c.lut16ToFloat,
-                                  c.lutFloatTo16, c.lut8ToFloat, c.lutFloatTo8, c.lutHalfToFloat};
-    return int(std::count_if(std::begin(tables), std::end(tables), [](void const* t) { return t != nullptr; }));
+    std::vector<void const*> const tables = TQTest::tablesOf(c);
+    return int(tables.size()) - int(std::count(tables.begin(), tables.end(), nullptr));
 }
 
 } // namespace
