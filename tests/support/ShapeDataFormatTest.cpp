@@ -30,9 +30,7 @@ TEST(ShapeDataFormat, RegistryFillsLazilyAndListsInLabelOrder)
 
     // Before its function runs, a label is unknown and falls back to Shake Rotoshape, which that builds.
     int const countBefore = TQ_ShapeDataFormat::enumCount;
-    TQ_ShapeDataFormat const fallback = TQ_ShapeDataFormat::byName(kCombustion);
-    EXPECT_EQ(fallback.fileTypeFilter, kShakeSsf);
-    EXPECT_EQ(all.count(kShakeSsf), 1u);
+    EXPECT_EQ(TQ_ShapeDataFormat::byName(kCombustion).fileTypeFilter, kShakeSsf);
     EXPECT_EQ(TQ_ShapeDataFormat::byName(QString()).fileTypeFilter, kShakeSsf);
 
     // Built once, whatever the number of calls; the counter rises once and numbers it.
@@ -40,15 +38,13 @@ TEST(ShapeDataFormat, RegistryFillsLazilyAndListsInLabelOrder)
     TQ_ShapeDataFormat const& combustion = TQ_ShapeDataFormat::COMBUSTION_GMASK_SCRIPT();
     EXPECT_EQ(&TQ_ShapeDataFormat::COMBUSTION_GMASK_SCRIPT(), &combustion);
     EXPECT_EQ(TQ_ShapeDataFormat::enumCount, countAfterFallback + 1);
-    EXPECT_EQ(combustion.iEnumValue, countAfterFallback);
-    EXPECT_GE(countAfterFallback, countBefore);
-    EXPECT_EQ(TQ_ShapeDataFormat::byName(kCombustion).iEnumValue, combustion.iEnumValue);
-    expectFormat(TQ_ShapeDataFormat::byName(kCombustion), "Combustion GMask Script (*.gmask)", ".gmask", false,
-                 "combustion");
+    EXPECT_EQ(TQ_ShapeDataFormat::byName(kCombustion).iEnumValue, countAfterFallback);
 
     // All ten, with their records.
     struct { TQ_ShapeDataFormat const& format; char const *filter, *extension; bool bFlag; char const* host; } const
         rows[] = {
+            {TQ_ShapeDataFormat::COMBUSTION_GMASK_SCRIPT(), "Combustion GMask Script (*.gmask)", ".gmask", false,
+             "combustion"},
             {TQ_ShapeDataFormat::NUKE_ROTO(), "Nuke v6.2 Roto (*.nk)", ".nk", true, "nuke"},
             {TQ_ShapeDataFormat::NUKE_ROTO_PAINT(), "Nuke Roto Paint (*.nk)", ".nk", true, "nuke"},
             {TQ_ShapeDataFormat::VANTREL_SHAPE_SCRIPT(), "Vantrel Layer Script (*.layer)", ".layer", false, "generic"},
@@ -74,11 +70,9 @@ TEST(ShapeDataFormat, RegistryFillsLazilyAndListsInLabelOrder)
                                    "lumba shape data for Final Cut"}));
     EXPECT_EQ(TQ_ShapeDataFormat::enumCount, countBefore + 10);
 
-    // A format constructed under a taken label leaves the registered one in place.
-    int const count = TQ_ShapeDataFormat::enumCount;
+    // A format constructed under a taken label is numbered but leaves the registered one in place.
     TQ_ShapeDataFormat const impostor(kCombustion, QStringLiteral(".x"), true, QStringLiteral("other"));
-    EXPECT_EQ(impostor.iEnumValue, count);
-    EXPECT_EQ(TQ_ShapeDataFormat::enumCount, count + 1);
+    EXPECT_EQ(impostor.iEnumValue, countBefore + 10);
     EXPECT_EQ(all.size(), 10u);
     EXPECT_EQ(TQ_ShapeDataFormat::byName(kCombustion).extension, QStringLiteral(".gmask"));
 }
