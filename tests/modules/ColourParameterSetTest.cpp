@@ -35,13 +35,6 @@ TEST(ColourParameterSet, BandsOfOneNameReadBackByOrderTwice)
     EXPECT_EQ(partial.InputClipID.staticValue(), 4u);
 }
 
-TEST(ColourParameterSet, BandsExtrapolateAlongTheSlopeWithinTheirLimits)
-{
-    TQ_ColourParams band;
-    withKeys(band.Saturation, {{0.0f, 1.0f}, {10.0f, 2.0f}});
-    expectReads(band.Saturation, {{20.0f, 3.0f}, {50.0f, 5.0f}, {-20.0f, 0.0f}});
-}
-
 TEST(LuminanceEffectsParameterSet, SampleStoreStartsEmptyInCopiesAndStaysOnAssignment)
 {
     TQ_LuminanceEffectsParameterSet source;

@@ -227,29 +227,22 @@ TEST(ModuleSets, AMovedParameterLivesWhileAnySetHoldsItAndIsFreedOnce)
     EXPECT_TRUE(target.bStreamIn(QStringLiteral("Render.value=1")));
 }
 
-template <class S>
-void vExpectUnusedFlagNeitherRegisteredNorCopiedNorAssigned()
-{
-    S source;
-    source.UnusedFlag.vSetValue(true, 0.0f);
-    S const copy(source);
-    S target;
-    target.UnusedFlag.vSetValue(true, 4.0f);
-    target = source;
-    EXPECT_FALSE(everyParameter(source).contains(&source.UnusedFlag));
-    EXPECT_EQ(copy.UnusedFlag.keyframeCount(), 0u);
-    EXPECT_EQ(copy.UnusedFlag.qstrDisplayName(), "Not Set");
-    EXPECT_EQ(keysOf(target.UnusedFlag), (Keys<Prm::Parameter<bool>>{{4.0f, true}}));
-}
-
-struct Remove : TQ_RemoveParameterSet {
-    Remove() : TQ_RemoveParameterSet(nullptr) {}
-};
-
 TEST(ModuleSets, UnusedFlagsAreNeitherRegisteredNorCopiedNorAssigned)
 {
-    vExpectUnusedFlagNeitherRegisteredNorCopiedNorAssigned<Remove>();
-    vExpectUnusedFlagNeitherRegisteredNorCopiedNorAssigned<TQ_WarperParameterSet>();
+    auto const check = [](auto& source, auto& target) {
+        source.UnusedFlag.vSetValue(true, 0.0f);
+        target.UnusedFlag.vSetValue(true, 4.0f);
+        auto const copy(source);
+        target = source;
+        EXPECT_FALSE(everyParameter(source).contains(&source.UnusedFlag));
+        EXPECT_EQ(copy.UnusedFlag.keyframeCount(), 0u);
+        EXPECT_FALSE(copy.UnusedFlag.staticValue());
+        EXPECT_EQ(keysOf(target.UnusedFlag), (Keys<Prm::Parameter<bool>>{{4.0f, true}}));
+    };
+    TQ_RemoveParameterSet removeSource(nullptr), removeTarget(nullptr);
+    check(removeSource, removeTarget);
+    TQ_WarperParameterSet warperSource, warperTarget;
+    check(warperSource, warperTarget);
 }
 
 } // namespace

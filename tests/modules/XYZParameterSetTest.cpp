@@ -1,3 +1,4 @@
+#include "ModuleSetTable.h"
 #include "modules/Camera3DParameterSet.h"
 #include "prm/text/ParameterTextDocument.h"
 
@@ -10,19 +11,12 @@ namespace {
 float const fLargest = std::numeric_limits<float>::max();
 
 // Every coordinate and the focal length share one shape: keyed, 0, unbounded, holding, no default kind.
-void vExpectPointParameter(Prm::NumericParameter<float> const& parameter, char const* scriptName,
-                           char const* displayName)
+void vExpectPoint(Prm::ParameterWithoutType& parameter, QString const& name, QString const& displayName = QString())
 {
-    SCOPED_TRACE(scriptName);
-    EXPECT_EQ(parameter.qstrScriptName(), scriptName);
-    EXPECT_EQ(parameter.qstrDisplayName(), displayName);
-    EXPECT_TRUE(parameter.isKeyframed());
-    EXPECT_EQ(parameter.defaultValue(), 0.0f);
-    EXPECT_EQ(parameter.minimum(), -fLargest);
-    EXPECT_EQ(parameter.maximum(), fLargest);
-    EXPECT_EQ(parameter.interpolation(0.0f), Prm::InterpolationUnset);
-    EXPECT_EQ(parameter.extrapolationBefore(), Prm::ExtrapolationHold);
-    EXPECT_EQ(parameter.extrapolationAfter(), Prm::ExtrapolationHold);
+    TableRow const row{name, "NumericParameter<float>", "yes", "0", "-largest float", "largest float", "0", "hold",
+                       displayName, "no"};
+    EXPECT_EQ(parameter.qstrScriptName(), name);
+    EXPECT_EQ(factsOf(parameter) + looksOf(parameter), expectedFacts(parameter, row)) << name.toStdString();
 }
 
 } // namespace
@@ -32,8 +26,9 @@ TEST(XYZParameterSet, ThreeUnboundedCoordinatesAtFloatPrecision)
     TQ_XYZParameterSet point("Where");
     EXPECT_EQ(point.qstrDisplayName(), "Where");
     EXPECT_EQ(point.parameterList(), (QVector<Prm::ParameterWithoutType*>{point.x(), point.y(), point.z()}));
-    vExpectPointParameter(*point.x(), "x", "x");
-    vExpectPointParameter(*point.z(), "z", "z");
+    vExpectPoint(*point.x(), "x");
+    vExpectPoint(*point.y(), "y");
+    vExpectPoint(*point.z(), "z");
 
     point.setValue(Gan_Vector3{0.1, -2.5, 1e300}, 4.0f);
     point.setValue(Gan_Vector3{1.0, 2.0, 3.0}, 8.0f);
@@ -54,7 +49,7 @@ TEST(Camera3DParameterSet, NamesChildrenFocusAndKeys)
     TQ_Camera3DParameterSet camera;
     EXPECT_EQ(camera.qstrDisplayName(), "Camera");
     EXPECT_EQ(camera.qstrScriptName(), "Camera3D");
-    vExpectPointParameter(*camera.focus(), "FocalLength", "Focal Length");
+    vExpectPoint(*camera.focus(), "FocalLength", "Focal Length");
     EXPECT_EQ(camera.parameterList().size(), 1);
     EXPECT_EQ(camera.childSetList(),
               (QVector<Prm::ParameterSet*>{&camera.position, &camera.rotation, &camera.scale}));
