@@ -72,8 +72,15 @@ struct SetTable {
             else if (words.contains(word))
                 for (QString const& item : line.section(' ', 1).split(',', Qt::SkipEmptyParts))
                     *lists[words.indexOf(word)] << item.trimmed();
-            else
-                (line.contains("%1") ? grid : rows) << row(line);
+            else {
+                QStringList cells = line.split('|');
+                for (QString& cell : cells)
+                    cell = cell.trimmed();
+                while (cells.size() < 10)
+                    cells << QString();
+                (line.contains("%1") ? grid : rows) << TableRow{cells[0], cells[1], cells[2], cells[3], cells[4],
+                                                                 cells[5], cells[6], cells[7], cells[8], cells[9]};
+            }
         }
         for (int cell = 0; cell < 17 * 17 && !grid.isEmpty(); ++cell)
             for (TableRow each : grid) {
@@ -89,17 +96,6 @@ struct SetTable {
             if (entry == member || (entry.endsWith('*') && member.startsWith(entry.chopped(1))))
                 return true;
         return false;
-    }
-
-private:
-    static TableRow row(QString const& line)
-    {
-        QStringList cells = line.split('|');
-        for (QString& cell : cells)
-            cell = cell.trimmed();
-        while (cells.size() < 10)
-            cells << QString();
-        return {cells[0], cells[1], cells[2], cells[3], cells[4], cells[5], cells[6], cells[7], cells[8], cells[9]};
     }
 };
 
@@ -121,14 +117,12 @@ struct DefaultInterpolation : Prm::Parameter<T> {
 };
 
 template <class T>
-QString qstrOf(T value)
+QString qstrOf(T const& value)
 {
-    return QString::number(static_cast<double>(value), 'g', 17);
-}
-
-inline QString qstrOf(QString const& value)
-{
-    return '"' + value + '"';
+    if constexpr (std::is_same<T, QString>::value)
+        return '"' + value + '"';
+    else
+        return QString::number(static_cast<double>(value), 'g', 17);
 }
 
 /// A cell as a value of `T`: a text cell is quoted in the table.
