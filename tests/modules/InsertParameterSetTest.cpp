@@ -3,61 +3,50 @@
 
 #include <gtest/gtest.h>
 
-TEST(InsertParameterSet, RegionOfInterestReadsTheClipOfTheSetItWasBuiltIn)
+TEST(InsertROIParameterSet, ShowsFractionsInPixelsOfTheClipTheInsertSetNames)
 {
     Clips clips;
-    TQ_InsertParameterSet source(&clips);
-    TQ_InsertParameterSet const copy(source);
-    TQ_InsertParameterSet target(nullptr);
-    target = source;
-    for (TQ::ROIParameter const* roi : {&copy.ROI.ROIX1, &copy.ROI.ROIY2}) {
-        EXPECT_EQ(roi->clipIdParameter, &source.InsertClipID) << "a copy still reads the source's clip";
-        EXPECT_EQ(roi->clipContainer, &clips);
-    }
-    EXPECT_EQ(target.ROI.ROIX1.clipIdParameter, &target.InsertClipID) << "assignment leaves the children";
-    EXPECT_EQ(target.ROI.ROIX1.clipContainer, nullptr);
-}
-
-TEST(InsertROIParameterSet, ShowsFractionsInPixelsOfTheNamedClip)
-{
-    Clips clips;
-    clips.clips[2].FrameWidth = 2048;
-    clips.clips[2].FrameHeight = 778;
-    clips.clips[3].FrameWidth = 720;
-    clips.clips[3].FrameHeight = 243;
-    clips.clips[3].eInterlaceMode = TQ_INTERLACE_FIELDS_2;
-    clips.clips[4] = clips.clips[3];
-    clips.clips[4].eInterlaceMode = TQ_INTERLACE_FIELDS_1;
-    Prm::Parameter<unsigned int> insertClip(true, "InsertClipID", 0u, Prm::InterpolationStep, Prm::ExtrapolationHold);
-    TQ_InsertROIParameterSet roi(&insertClip, &clips);
+    TQ_InsertParameterSet insert(&clips);
+    TQ_InsertROIParameterSet& roi = insert.ROI;
     struct Row {
-        unsigned int uiClip;
+        unsigned int uiClip, uiWidth, uiHeight;
+        _TQ_INTERLACE_MODE eInterlace;
         float fX, fY; // shown for a stored 0.5
     };
     Row const rows[] = {
-        {2, 1024.0f, 389.0f}, // progressive: width and height
-        {3, 360.0f, 243.0f},  // interlaced: each field holds half the height
-        {4, 360.0f, 243.0f},
-        {0, 0.5f, 0.5f}, // no clip: unscaled
-        {8, 0.5f, 0.5f}, // no such clip: unscaled
+        {2, 2048, 778, TQ_INTERLACE_NONE, 1024.0f, 389.0f},
+        {3, 720, 243, TQ_INTERLACE_FIELDS_1, 360.0f, 243.0f}, // each field holds half the height
+        {4, 720, 243, TQ_INTERLACE_FIELDS_2, 360.0f, 243.0f},
+        {0, 720, 243, TQ_INTERLACE_NONE, 0.5f, 0.5f}, // id 0 is no clip, even where the container has one
     };
     for (Row const& row : rows) {
         SCOPED_TRACE(row.uiClip);
-        insertClip.vSetValue(row.uiClip, 7.0f);
+        clips.clips[row.uiClip].FrameWidth = row.uiWidth;
+        clips.clips[row.uiClip].FrameHeight = row.uiHeight;
+        clips.clips[row.uiClip].eInterlaceMode = row.eInterlace;
+        insert.InsertClipID.vSetValue(row.uiClip, 0.0f);
         EXPECT_EQ(roi.ROIX1.value2Display(0.5f, 7.0f), row.fX);
         EXPECT_EQ(roi.ROIY1.value2Display(0.5f, 7.0f), row.fY);
         EXPECT_EQ(roi.ROIX2.display2Value(row.fX, 7.0f), 0.5f);
         EXPECT_EQ(roi.ROIY2.display2ValueAsDouble(row.fY, 7.0f), 0.5);
     }
-    insertClip.vSetValue(2u, 7.0f);
-    auto* const copy = new TQ_InsertROIParameterSet(roi);
+    insert.InsertClipID.vSetValue(8u, 0.0f);
+    EXPECT_EQ(roi.ROIX1.value2Display(0.5f, 0.0f), 0.5f) << "no such clip: unscaled";
+
+    insert.InsertClipID.vSetValue(2u, 0.0f);
+    auto* const copy = new TQ_InsertParameterSet(insert);
+    TQ_InsertParameterSet target(nullptr);
+    target = insert;
+    EXPECT_EQ(copy->ROI.ROIY2.clipIdParameter, &insert.InsertClipID) << "a copy still reads the source's clip";
+    EXPECT_EQ(copy->ROI.ROIY2.clipContainer, &clips);
+    EXPECT_EQ(target.ROI.ROIX1.clipIdParameter, &target.InsertClipID) << "assignment leaves the children";
     {
         Prm::Parameter<unsigned int> shortLived(false, "InsertClipID", 2u, Prm::InterpolationStep,
                                                 Prm::ExtrapolationHold);
-        copy->ROIX1.vSetClipIdParameter(&shortLived);
-        EXPECT_EQ(copy->ROIX1.value2Display(0.5f, 0.0f), 1024.0f);
+        copy->ROI.ROIX1.vSetClipIdParameter(&shortLived);
+        EXPECT_EQ(copy->ROI.ROIX1.value2Display(0.5f, 0.0f), 1024.0f);
     }
-    EXPECT_EQ(copy->ROIX1.value2Display(0.5f, 0.0f), 0.5f) << "a clip parameter gone reads as no clip";
+    EXPECT_EQ(copy->ROI.ROIX1.value2Display(0.5f, 0.0f), 0.5f) << "a clip parameter gone reads as no clip";
     delete copy;
 }
 
