@@ -5,18 +5,6 @@
 
 #include <QPointer>
 
-namespace {
-
-QStringList childNames(Prm::ParameterSet const& set)
-{
-    QStringList names;
-    for (Prm::ParameterSet const* child : set.childSetList())
-        names.append(child->qstrScriptName());
-    return names;
-}
-
-} // namespace
-
 TEST(Layer3DParameterSet, CreateFindAndIdsAsUnsigned)
 {
     TQ_Layer3DParameterSet layer;
@@ -25,12 +13,13 @@ TEST(Layer3DParameterSet, CreateFindAndIdsAsUnsigned)
     EXPECT_EQ(layer.findNull(3), nullptr);
     EXPECT_TRUE(layer.nulls.isEmpty()) << "a miss inserts nothing";
     TQ_NullObject3DParameterSet* first = layer.createNull(3, "Tree");
-    EXPECT_EQ(layer.createNull(3, "Other"), first) << "the first name stays";
+    EXPECT_EQ(layer.createNull(3, "Other"), first);
     TQ_NullObject3DParameterSet* const negative = layer.createNull(-1, "Sky");
     EXPECT_EQ(layer.nulls.value(4294967295u), negative);
     EXPECT_EQ(static_cast<TQ_Layer3DParameterSet const&>(layer).findNull(-1), negative);
-    layer.createNull(1, "Rock");
-    EXPECT_EQ(childNames(layer), (QStringList{"Tree", "Sky", "Rock"})) << "children in order of creation";
+    TQ_NullObject3DParameterSet* const rock = layer.createNull(1, "Rock");
+    EXPECT_EQ(layer.childSetList(), (QVector<Prm::ParameterSet*>{first, negative, rock})) << "in order of creation";
+    EXPECT_EQ(first->qstrScriptName(), "Tree");
     first->position.setValue(Gan_Vector3{1.0, 2.0, 3.0}, 5.0f);
     layer.deleteAllKeyframes();
     EXPECT_EQ(first->position.x()->keyframeCount(), 0u);
@@ -62,7 +51,7 @@ TEST(Layer3DParameterSet, NullsAddedCopiedAssignedRemovedAndReadBackAreFreedOnce
         EXPECT_EQ(alive(), 4) << "the target's own null went with the assignment";
         watch(assigned.findNull(2));
         assigned = assigned;
-        EXPECT_EQ(childNames(assigned), (QStringList{"Seven", "Two"}));
+        EXPECT_EQ(assigned.childSetList(), (QVector<Prm::ParameterSet*>{assigned.findNull(7), assigned.findNull(2)}));
         EXPECT_EQ(alive(), 5);
 
         copy.clear();

@@ -262,18 +262,6 @@ inline void vMutate(Prm::ParameterSet const& set, int seed)
     }
 }
 
-/// Widens a numeric parameter's limits to the whole type, which no stored value notices.
-inline void vWidenLimits(Prm::ParameterWithoutType& parameter)
-{
-    bVisit(parameter, [](auto& typed, QString const&) {
-        using T = std::decay_t<decltype(typed.staticValue())>;
-        if constexpr (std::is_arithmetic<T>::value) {
-            if (auto* numeric = dynamic_cast<Prm::NumericParameter<T>*>(&typed))
-                numeric->vSetMinimum(std::numeric_limits<T>::lowest());
-        }
-    });
-}
-
 /// Clips by id, each with its own frame; a missing id is no clip.
 struct Clips : TQ_BaseClipInfoContainer {
     TQ_BaseClipInfo* baseClipInfo(unsigned int clipId) override
