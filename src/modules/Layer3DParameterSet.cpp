@@ -5,8 +5,9 @@
 TQ_Layer3DParameterSet::TQ_Layer3DParameterSet() : Prm::ParameterSet(QStringLiteral("Nulls"), nullptr) {}
 
 TQ_Layer3DParameterSet::TQ_Layer3DParameterSet(TQ_Layer3DParameterSet const& other)
-    : Prm::ParameterSet(QStringLiteral("Nulls"), nullptr)
+    : Prm::ParameterSet(other.qstrDisplayName(), nullptr)
 {
+    setScriptName(other.qstrScriptName());
     vCopyNullsOf(other);
 }
 

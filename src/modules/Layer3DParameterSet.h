@@ -7,8 +7,8 @@
 ///
 /// The set owns its nulls: `createNull` allocates them, `clear` and the destructor delete each exactly
 /// once. Every null is also a child set, in order of creation, so that it streams with the layer. A copy
-/// owns copies of the source's nulls (same ids, names, values and order); assignment deletes the target's
-/// nulls and copies the source's. Pointers returned by `findNull` and `createNull` stay valid until
+/// takes the source's names and owns copies of its nulls (same ids, names, values and order); assignment
+/// takes the names, deletes the target's nulls and copies the source's. Pointers returned by `findNull` and `createNull` stay valid until
 /// `clear`, an assignment to the layer, or its destruction.
 class TQ_Layer3DParameterSet : public Prm::ParameterSet
 {

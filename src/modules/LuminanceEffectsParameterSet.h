@@ -10,7 +10,7 @@ namespace TQ::Table {
 /// The parameters of the luminance effects, in member order, with the sample storage between
 /// "ReferenceColourSamples" and "SelectedColour".
 struct LuminanceEffectsParameters {
-    Parameter<unsigned int> LuminanceReferenceClipID{Unkeyed, "LuminanceReferenceClipID", 0u, Step, Hold};
+    Parameter<unsigned int> LuminanceReferenceClipID = clipReference("LuminanceReferenceClipID", 0);
     Parameter<unsigned int> LuminanceClipID = clipReference("LuminanceClipID", 0);
     Parameter<unsigned int> ShadowClipID = clipReference("ShadowClipID", 0);
     Parameter<unsigned int> HighlightClipID = clipReference("HighlightClipID", 0);
@@ -43,8 +43,9 @@ struct LuminanceEffectsParameters {
     /// Filled by the module outside the library, never registered or streamed.
     EmptyOnCopy<QVector<QVector<Numeric<float>>>> referenceSampleColours;
     EmptyOnCopy<QVector<QVector<Numeric<float>>>> targetSampleColours;
-    Parameter<unsigned int> SelectedColour = clipReference("SelectedColour", 0);
-    Parameter<unsigned int> SelectedSample = clipReference("SelectedSample", 0);
+    // Indices into the samples, not clip ids: no clip removal touches them.
+    Parameter<unsigned int> SelectedColour{Unkeyed, "SelectedColour", 0u, Step, Hold};
+    Parameter<unsigned int> SelectedSample{Unkeyed, "SelectedSample", 0u, Step, Hold};
 };
 
 } // namespace TQ::Table

@@ -1,5 +1,4 @@
 #include "clip/ClipBoundParameterSet.h"
-#include "modules/TrackingParameterSet.h"
 #include "prm/Fixtures.h"
 
 #include <gtest/gtest.h>
@@ -38,24 +37,6 @@ TEST(ClipBoundParameterSet, ForgetClipResetsToTheDefaultAndAnnouncesOnlyARealCha
         Events const expected = row.bAnnounced ? Events{{Prm::ParameterChange::StaticValueChanged, 0}} : Events{};
         EXPECT_EQ(recorder.events, expected) << row.uiStored << " forgetting " << row.uiForgotten;
     }
-}
-
-TEST(ClipBoundParameterSet, AMovedParameterLivesWhileAnySetHoldsItAndIsFreedOnce)
-{
-    auto* source = new TQ_TrackingParameterSet;
-    TQ_TrackingParameterSet const copy(*source);
-    TQ_TrackingParameterSet target;
-    Prm::MovedParameter const* const ownBefore = target.Render.get();
-    target = *source; // the target's own moved parameter has no other holder and goes now
-    EXPECT_NE(target.Render.get(), ownBefore);
-    TQ_TrackingParameterSet& alias = target;
-    target = alias;
-    EXPECT_EQ(target.Render.use_count(), 3);
-
-    delete source; // the moved parameter lives on in the two others, and still takes its old line
-    EXPECT_EQ(copy.Render.use_count(), 2);
-    EXPECT_EQ(target.basicParameterList(), QVector<Prm::BasicParameter*>{copy.Render.get()});
-    EXPECT_TRUE(target.bStreamIn(QStringLiteral("Render.value=1")));
 }
 
 } // namespace

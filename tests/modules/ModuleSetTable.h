@@ -1,6 +1,6 @@
 #pragma once
-/// Test-side view of a module set: its table read from a data file of its own, and a typed look at every
-/// parameter through the untyped list, so that one set of checks walks all sets.
+/// Test-side view of a module set: its table, found by the set's name among the data files in `tables/`, and
+/// a typed look at every parameter through the untyped list, so that one set of checks walks all sets.
 #include "clip/BaseClipInfo.h"
 #include "clip/BaseClipInfoContainer.h"
 #include "clip/FrameOffsetParameter.h"
@@ -8,7 +8,9 @@
 #include "modules/InsertROIParameterSet.h"
 #include "prm/NumericParameter.h"
 
-#include <QString>
+#include <gtest/gtest.h>
+
+#include <QMap>
 #include <QStringList>
 #include <QVector>
 #include <cmath>
@@ -26,81 +28,84 @@ struct TableRow {
     QString name, kind, keyed, initial, minimum, maximum, interpolation, extrapolation, displayName, hidden;
 };
 
-/// A set's data file: rows plus the set's name, moved parameters, forgotten clips, rescaled parameters,
-/// the parameters its assignment keeps (a trailing * matches any ending; "clipContainer" for the
-/// container pointer) and its child sets. Rows whose name holds %1 and %2 stand for the 17 x 17 weight
-/// grid, row by row, column by column, in their order within a cell.
+/// A set's data file: rows plus the set's name, moved parameters, forgotten clips and rescaled parameters
+/// (children's included, in order), what its assignment keeps (parameters, "clipContainer", child sets; a
+/// trailing * matches any ending), its child sets, and the parameters whose hidden flag `init()` sets
+/// ("*": all). Rows whose name holds %1 and %2 stand for the 17 x 17 weight grid, cell by cell.
 struct SetTable {
     QString name;
-    QStringList moved, forgets, rescales, kept, children;
-    /// Parameters whose hidden flag `init()` sets, so that a copy does not take it from its source; "*"
-    /// for all.
-    QStringList flagsByInit;
+    QStringList moved, forgets, rescales, kept, children, flagsByInit;
     QVector<TableRow> rows;
 
-private:
-    QVector<TableRow> grid;
-
-public:
-
-    explicit SetTable(QString const& text)
+    explicit SetTable(QString const& setName)
     {
-        for (QString const& line : text.split('\n', Qt::SkipEmptyParts)) {
-            if (line.startsWith('#'))
-                continue;
+        static char const* const allTables =
+#include "tables/Basic.table"
+#include "tables/Blur.table"
+#include "tables/Colour.table"
+#include "tables/ColourBand.table"
+#include "tables/ColourFilter.table"
+#include "tables/Composite.table"
+#include "tables/Edge.table"
+#include "tables/Insert.table"
+#include "tables/Luminance.table"
+#include "tables/Matte.table"
+#include "tables/Offset.table"
+#include "tables/ROI.table"
+#include "tables/Remove.table"
+#include "tables/Stabilize.table"
+#include "tables/Track.table"
+#include "tables/Warper.table"
+            ;
+        QVector<TableRow> grid;
+        QStringList* const lists[] = {&moved, &forgets, &rescales, &kept, &children, &flagsByInit};
+        QStringList const words = {"moved", "forgets", "rescales", "kept", "children", "flags-by-init"};
+        QString current;
+        for (QString const& line : QString::fromUtf8(allTables).split('\n', Qt::SkipEmptyParts)) {
             QString const word = line.section(' ', 0, 0);
-            QStringList const list = line.section(' ', 1).split(',', Qt::SkipEmptyParts);
-            QStringList trimmed;
-            for (QString const& item : list)
-                trimmed << item.trimmed();
             if (word == "set")
-                name = trimmed.value(0);
-            else if (word == "moved")
-                moved = trimmed;
-            else if (word == "forgets")
-                forgets = trimmed;
-            else if (word == "rescales")
-                rescales = trimmed;
-            else if (word == "kept")
-                kept = trimmed;
-            else if (word == "flags-by-init")
-                flagsByInit = trimmed;
-            else if (word == "children")
-                children = trimmed;
-            else
-                (line.contains("%1") ? grid : rows) << row(line);
-        }
-        for (int r = 0; r < 17 && !grid.isEmpty(); ++r) {
-            for (int c = 0; c < 17; ++c) {
-                for (TableRow cell : grid) {
-                    cell.name = cell.name.arg(r).arg(c);
-                    rows << cell;
-                }
+                current = line.section(' ', 1);
+            if (line.startsWith('#') || current != setName)
+                continue;
+            if (word == "set")
+                name = current;
+            else if (words.contains(word))
+                for (QString const& item : line.section(' ', 1).split(',', Qt::SkipEmptyParts))
+                    *lists[words.indexOf(word)] << item.trimmed();
+            else {
+                QStringList cells = line.split('|');
+                for (QString& cell : cells)
+                    cell = cell.trimmed();
+                while (cells.size() < 10)
+                    cells << QString();
+                (line.contains("%1") ? grid : rows) << TableRow{cells[0], cells[1], cells[2], cells[3], cells[4],
+                                                                 cells[5], cells[6], cells[7], cells[8], cells[9]};
             }
         }
+        for (int cell = 0; cell < 17 * 17 && !grid.isEmpty(); ++cell)
+            for (TableRow each : grid) {
+                each.name = each.name.arg(cell / 17).arg(cell % 17);
+                rows << each;
+            }
     }
 
     /// Whether assignment leaves `member` as it was.
     bool bKept(QString const& member) const
     {
-        for (QString const& entry : kept) {
+        for (QString const& entry : kept)
             if (entry == member || (entry.endsWith('*') && member.startsWith(entry.chopped(1))))
                 return true;
-        }
         return false;
     }
-
-private:
-    static TableRow row(QString const& line)
-    {
-        QStringList cells = line.split('|');
-        for (QString& cell : cells)
-            cell = cell.trimmed();
-        while (cells.size() < 10)
-            cells << QString();
-        return {cells[0], cells[1], cells[2], cells[3], cells[4], cells[5], cells[6], cells[7], cells[8], cells[9]};
-    }
 };
+
+/// Every parameter of the set and of its children, depth first.
+inline QVector<Prm::ParameterWithoutType*> everyParameter(Prm::ParameterSet const& set)
+{
+    QVector<Prm::ParameterWithoutType*> all;
+    set.forEachParameter([&all](Prm::ParameterWithoutType* parameter) { all << parameter; }, true);
+    return all;
+}
 
 /// Reaches the default interpolation, which has no reader of its own for a parameter without keys.
 template <class T>
@@ -112,36 +117,12 @@ struct DefaultInterpolation : Prm::Parameter<T> {
 };
 
 template <class T>
-QString qstrOf(T value)
+QString qstrOf(T const& value)
 {
-    return QString::number(static_cast<double>(value), 'g', 17);
-}
-
-inline QString qstrOf(QString const& value)
-{
-    return '"' + value + '"';
-}
-
-template <class T>
-T tFromDouble(double value)
-{
-    if constexpr (std::is_enum<T>::value)
-        return static_cast<T>(static_cast<int>(value));
+    if constexpr (std::is_same<T, QString>::value)
+        return '"' + value + '"';
     else
-        return static_cast<T>(value);
-}
-
-inline double dFromCell(QString const& cell)
-{
-    if (cell == "true")
-        return 1;
-    if (cell == "false")
-        return 0;
-    if (cell.endsWith("largest double"))
-        return (cell.startsWith('-') ? -1 : 1) * std::numeric_limits<double>::max();
-    if (cell.endsWith("largest float"))
-        return (cell.startsWith('-') ? -1 : 1) * double(std::numeric_limits<float>::max());
-    return cell.toDouble();
+        return QString::number(static_cast<double>(value), 'g', 17);
 }
 
 /// A cell as a value of `T`: a text cell is quoted in the table.
@@ -150,8 +131,18 @@ T tFromCell(QString const& cell)
 {
     if constexpr (std::is_same<T, QString>::value)
         return cell.mid(1, cell.size() - 2);
-    else
-        return tFromDouble<T>(dFromCell(cell));
+    else {
+        double const largest = cell.endsWith("float") ? double(std::numeric_limits<float>::max())
+                                                      : std::numeric_limits<double>::max();
+        double const value = cell == "true"                 ? 1
+                             : cell.endsWith("largest float") || cell.endsWith("largest double")
+                                 ? (cell.startsWith('-') ? -largest : largest)
+                                 : cell.toDouble();
+        if constexpr (std::is_enum<T>::value)
+            return static_cast<T>(static_cast<int>(value));
+        else
+            return static_cast<T>(value);
+    }
 }
 
 template <class T>
@@ -185,6 +176,7 @@ inline QStringList factsOf(Prm::ParameterWithoutType& parameter)
 {
     QStringList facts;
     bool const bKnown = bVisit(parameter, [&](auto const& typed, QString const& type) {
+        using T = std::decay_t<decltype(typed.staticValue())>;
         auto const* numeric = numericOf(typed);
         QString const kind = dynamic_cast<PrmFrameOffset const*>(&typed) ? QString("PrmFrameOffset")
                              : dynamic_cast<TQ::ROIParameter const*>(&typed)
@@ -194,8 +186,7 @@ inline QStringList factsOf(Prm::ParameterWithoutType& parameter)
                              : numeric ? "NumericParameter<" + type + ">"
                                        : "Parameter<" + type + ">";
         facts << kind << (typed.isKeyframed() ? "yes" : "no") << qstrOf(typed.staticValue())
-              << qstrOf(typed.defaultValue()) << QString::number(DefaultInterpolation<std::decay_t<decltype(
-                                                     typed.staticValue())>>::of(typed))
+              << qstrOf(typed.defaultValue()) << QString::number(DefaultInterpolation<T>::of(typed))
               << QString::number(typed.extrapolationBefore()) << QString::number(typed.extrapolationAfter());
         if (numeric)
             facts << qstrOf(numeric->minimum()) << qstrOf(numeric->maximum());
@@ -205,9 +196,7 @@ inline QStringList factsOf(Prm::ParameterWithoutType& parameter)
                          .arg(qstrOf(typed.keyframeValue(i)))
                          .arg(typed.interpolation(i));
     });
-    if (!bKnown)
-        facts << "unknown value type";
-    return facts;
+    return bKnown ? facts : QStringList{"unknown value type"};
 }
 
 /// Display name and hidden flag.
@@ -256,36 +245,28 @@ T tPick(Prm::Parameter<T> const& parameter, int step)
     }
 }
 
-/// Gives every parameter values other than its defaults: two keys and linear extrapolation after them
-/// when keyed, a static value otherwise. `seed` varies the values between sets.
-inline void vMutate(Prm::ParameterWithoutType& parameter, int seed)
+/// Gives every parameter of the set and its children values other than their defaults: two keys and linear
+/// extrapolation after them when keyed, a static value otherwise. `seed` varies the values between sets.
+inline void vMutate(Prm::ParameterSet const& set, int seed)
 {
-    bVisit(parameter, [&](auto& typed, QString const&) {
-        if (!typed.isKeyframed()) {
-            typed.vSetValue(tPick(typed, seed), 0.0f);
-            return;
-        }
-        typed.vSetValue(tPick(typed, seed), 2.0f);
-        typed.vSetValue(tPick(typed, seed + 1), 9.0f);
-        typed.vSetExtrapolationAfter(Prm::ExtrapolationLinear);
-    });
+    for (Prm::ParameterWithoutType* parameter : everyParameter(set)) {
+        bVisit(*parameter, [&](auto& typed, QString const&) {
+            if (!typed.isKeyframed()) {
+                typed.vSetValue(tPick(typed, seed), 0.0f);
+                return;
+            }
+            typed.vSetValue(tPick(typed, seed), 2.0f);
+            typed.vSetValue(tPick(typed, seed + 1), 9.0f);
+            typed.vSetExtrapolationAfter(Prm::ExtrapolationLinear);
+        });
+    }
 }
 
-/// Widens a numeric parameter's limits to the whole type, which no stored value notices.
-inline void vWidenLimits(Prm::ParameterWithoutType& parameter)
-{
-    bVisit(parameter, [](auto& typed, QString const&) {
-        using T = std::decay_t<decltype(typed.staticValue())>;
-        if constexpr (std::is_arithmetic<T>::value) {
-            if (auto* numeric = dynamic_cast<Prm::NumericParameter<T>*>(&typed))
-                numeric->vSetMinimum(std::numeric_limits<T>::lowest());
-        }
-    });
-}
-
-/// One clip, id 1 or any other, whose first frame is numbered 10.
-struct OneClipContainer : TQ_BaseClipInfoContainer {
-    OneClipContainer() { clip.FirstFrameOffset = 10; }
-    TQ_BaseClipInfo* baseClipInfo(unsigned int) override { return &clip; }
-    TQ_BaseClipInfo clip;
+/// Clips by id, each with its own frame; a missing id is no clip.
+struct Clips : TQ_BaseClipInfoContainer {
+    TQ_BaseClipInfo* baseClipInfo(unsigned int clipId) override
+    {
+        return clips.contains(clipId) ? &clips[clipId] : nullptr;
+    }
+    QMap<unsigned int, TQ_BaseClipInfo> clips;
 };
