@@ -23,9 +23,25 @@ bool bFinite(double d)
     return std::isfinite(d);
 }
 
+/// x * 0 is zero for every finite x and NaN otherwise: a sum of such terms tests several values with one
+/// comparison and one branch, which matters on the per-point paths.
+template <class... Doubles>
+bool bAllFinite(Doubles... values)
+{
+    return ((values * 0.0) + ...) == 0.0;
+}
+
 bool bFinite(Point2 const& p)
 {
-    return bFinite(p.x) && bFinite(p.y);
+    return bAllFinite(p.x, p.y);
+}
+
+/// sqrt(x^2 + y^2). std::hypot guards against overflow and underflow at a cost that dominates the cheap
+/// models; it is needed only where the squares leave the range in which their sum is exact to rounding.
+double dRadius(double x, double y)
+{
+    double const s = x * x + y * y;
+    return s > 1e-290 && s < 1e290 ? std::sqrt(s) : std::hypot(x, y);
 }
 
 Gan_Bool bFail(int* error, int iCode)
@@ -42,10 +58,10 @@ Gan_Bool bSucceed(int* error)
     return GAN_TRUE;
 }
 
-bool bIntrinsicsValid(Gan_Camera const& camera)
+inline bool bIntrinsicsValid(Gan_Camera const& camera)
 {
-    return bFinite(camera.fx) && bFinite(camera.fy) && bFinite(camera.x0) && bFinite(camera.y0) &&
-           bFinite(camera.zh) && camera.fx != 0.0 && camera.fy != 0.0 && camera.zh != 0.0;
+    return bAllFinite(camera.fx, camera.fy, camera.x0, camera.y0, camera.zh) && camera.fx != 0.0 &&
+           camera.fy != 0.0 && camera.zh != 0.0;
 }
 
 bool bCoefficientsFinite(Gan_Camera const& camera, int iCount)
@@ -157,7 +173,7 @@ bool bScaled(Point2 const& p, double factor, Point2& out)
 /// Moves `p` to the radius that the polynomial maps to its own radius.
 bool bSolvedRadius(RadialPolynomial const& poly, Point2 const& p, double tolerance, Point2& out)
 {
-    double const from = std::hypot(p.x, p.y);
+    double const from = dRadius(p.x, p.y);
     double to = 0.0;
     if (!bFinite(from) || !poly.bSolve(from, tolerance, to))
         return false;
@@ -221,12 +237,12 @@ struct FishEye {
     static bool bValid(Gan_Camera const&) { return true; }
     static bool bDistort(Gan_Camera const&, Point2 const& u, Point2& d)
     {
-        double const r = std::hypot(u.x, u.y);
+        double const r = dRadius(u.x, u.y);
         return bFinite(r) && bScaled(u, r > 0.0 ? Radius(std::atan(r)) / r : 1.0, d);
     }
     static bool bUndistort(Gan_Camera const&, Point2 const& d, Point2& u)
     {
-        double const rd = std::hypot(d.x, d.y);
+        double const rd = dRadius(d.x, d.y);
         if (!(rd < Limit()))
             return false;
         return bScaled(d, rd > 0.0 ? std::tan(Angle(rd)) / rd : 1.0, u);
@@ -548,9 +564,9 @@ struct NoModel {
 // ---------------------------------------------------------------------------------------------------
 // The point functions
 
-bool bPointValid(Gan_Vector3 const& p)
+inline bool bPointValid(Gan_Vector3 const& p)
 {
-    return bFinite(p.x) && bFinite(p.y) && bFinite(p.z) && p.z != 0.0;
+    return bAllFinite(p.x, p.y, p.z) && p.z != 0.0;
 }
 
 template <class Model>
