@@ -124,14 +124,27 @@ struct RadialPolynomial {
     double dFactor(double s) const { return 1.0 + s * (c1 + s * (c2 + s * c3)); }
     /// Derivative of the radius map at r, with s = r^2.
     double dSlope(double s) const { return 1.0 + s * (3.0 * c1 + s * (5.0 * c2 + s * 7.0 * c3)); }
-    /// Whether the radius map strictly grows over [0, sqrt(s)].
-    bool bIncreasingUpTo(double s) const { return dMinCubicFromOne(3.0 * c1, 5.0 * c2, 7.0 * c3, s) > 0.0; }
+    /// Whether the radius map strictly grows over [0, sqrt(s)]. The bound that counts every term of the
+    /// slope against it settles most points of a real lens without the divisions of the exact test.
+    bool bIncreasingUpTo(double s) const
+    {
+        double const dLowest = 1.0 - s * (3.0 * std::fabs(c1) + s * (5.0 * std::fabs(c2) + s * 7.0 * std::fabs(c3)));
+        return dLowest > 0.5 || dMinCubicFromOne(3.0 * c1, 5.0 * c2, 7.0 * c3, s) > 0.0;
+    }
 
     /// The radius r of the growing branch with r (1 + ...) = target, to `tolerance` both in r and in
-    /// the image of r.
+    /// the image of r. Newton's method starts from the first terms of the inverse series, which saves
+    /// about two steps on a real lens, and from `target` itself when that start fails.
     bool bSolve(double target, double tolerance, double& r) const
     {
-        double x = target;
+        double const tt = target * target;
+        double const series = target * (1.0 - tt * (c1 - tt * (3.0 * c1 * c1 - c2)));
+        return (series > 0.0 && series != target && bSolveFrom(series, target, tolerance, r)) ||
+               bSolveFrom(target, target, tolerance, r);
+    }
+
+    bool bSolveFrom(double x, double target, double tolerance, double& r) const
+    {
         for (int i = 0; i < kiMaxIterations; ++i) {
             double const s = x * x;
             double const slope = dSlope(s);
@@ -230,41 +243,77 @@ struct InverseRadial {
     }
 };
 
-/// Fish-eye: the distorted radius as a function of the angle from the axis, and its inverse below
-/// the angle pi / 2.
-template <double (*Radius)(double), double (*Angle)(double), double (*Limit)()>
+/// Fish-eye. `Ratios` gives the ratio rd / r of the distorted to the undistorted radius from r^2
+/// (`dRatio`), the ratio r / rd from rd^2 below the limit (`dInverseRatio`), and `kdLimit`, the
+/// distorted radius at theta = pi / 2. With tan theta = r, the laws reduce to square roots except
+/// the equidistant one, which keeps its arc tangent.
+template <class Ratios>
 struct FishEye {
+    /// Past this r^2 the angle is pi / 2 to double precision and rd is the limit.
+    static constexpr double kdFar = 1e290;
+
     static bool bValid(Gan_Camera const&) { return true; }
     static bool bDistort(Gan_Camera const&, Point2 const& u, Point2& d)
     {
-        double const r = dRadius(u.x, u.y);
-        return bFinite(r) && bScaled(u, r > 0.0 ? Radius(std::atan(r)) / r : 1.0, d);
+        double const s = u.x * u.x + u.y * u.y;
+        if (s < kdFar)
+            return bScaled(u, Ratios::dRatio(s), d);
+        double const r = std::hypot(u.x, u.y);
+        return bFinite(r) && bScaled(u, Ratios::kdLimit / r, d);
     }
     static bool bUndistort(Gan_Camera const&, Point2 const& d, Point2& u)
     {
-        double const rd = dRadius(d.x, d.y);
-        if (!(rd < Limit()))
+        if (!(dRadius(d.x, d.y) < Ratios::kdLimit))
             return false;
-        return bScaled(d, rd > 0.0 ? std::tan(Angle(rd)) / rd : 1.0, u);
+        return bScaled(d, Ratios::dInverseRatio(d.x * d.x + d.y * d.y), u);
     }
 };
 
-double dStereographic(double theta) { return 2.0 * std::tan(0.5 * theta); }
-double dStereographicAngle(double rd) { return 2.0 * std::atan(0.5 * rd); }
-double dStereographicLimit() { return 2.0; }
-double dEquidistant(double theta) { return theta; }
-double dEquidistantLimit() { return kdHalfPi; }
-double dSineLaw(double theta) { return std::sin(theta); }
-double dSineLawAngle(double rd) { return std::asin(rd); }
-double dSineLawLimit() { return 1.0; }
-double dEquiSolidAngle(double theta) { return 2.0 * std::sin(0.5 * theta); }
-double dEquiSolidAngleAngle(double rd) { return 2.0 * std::asin(0.5 * rd); }
-double dEquiSolidAngleLimit() { return kdSqrt2; }
+/// rd = 2 tan(theta / 2) = 2 r / (1 + sqrt(1 + r^2)); theta = 2 atan(rd / 2) gives r = rd / (1 - rd^2 / 4).
+struct StereographicRatios {
+    static constexpr double kdLimit = 2.0;
+    static double dRatio(double s) { return 2.0 / (1.0 + std::sqrt(1.0 + s)); }
+    static double dInverseRatio(double sd) { return 1.0 / (1.0 - 0.25 * sd); }
+};
 
-using Stereographic = FishEye<dStereographic, dStereographicAngle, dStereographicLimit>;
-using Equidistant = FishEye<dEquidistant, dEquidistant, dEquidistantLimit>;
-using SineLaw = FishEye<dSineLaw, dSineLawAngle, dSineLawLimit>;
-using EquiSolidAngle = FishEye<dEquiSolidAngle, dEquiSolidAngleAngle, dEquiSolidAngleLimit>;
+/// rd = theta = atan r.
+struct EquidistantRatios {
+    static constexpr double kdLimit = kdHalfPi;
+    static double dRatio(double s)
+    {
+        double const r = std::sqrt(s);
+        return r > 0.0 ? std::atan(r) / r : 1.0;
+    }
+    static double dInverseRatio(double sd)
+    {
+        double const rd = std::sqrt(sd);
+        return rd > 0.0 ? std::tan(rd) / rd : 1.0;
+    }
+};
+
+/// rd = sin theta = r / sqrt(1 + r^2), so r = rd / sqrt(1 - rd^2).
+struct SineLawRatios {
+    static constexpr double kdLimit = 1.0;
+    static double dRatio(double s) { return 1.0 / std::sqrt(1.0 + s); }
+    static double dInverseRatio(double sd) { return 1.0 / std::sqrt(1.0 - sd); }
+};
+
+/// rd = 2 sin(theta / 2) = r sqrt(2 / (c (1 + c))) with c = sqrt(1 + r^2) = 1 / cos theta; back,
+/// r = tan theta = rd sqrt(1 - rd^2 / 4) / (1 - rd^2 / 2).
+struct EquiSolidAngleRatios {
+    static constexpr double kdLimit = kdSqrt2;
+    static double dRatio(double s)
+    {
+        double const c = std::sqrt(1.0 + s);
+        return std::sqrt(2.0 / (c * (1.0 + c)));
+    }
+    static double dInverseRatio(double sd) { return std::sqrt(1.0 - 0.25 * sd) / (1.0 - 0.5 * sd); }
+};
+
+using Stereographic = FishEye<StereographicRatios>;
+using Equidistant = FishEye<EquidistantRatios>;
+using SineLaw = FishEye<SineLawRatios>;
+using EquiSolidAngle = FishEye<EquiSolidAngleRatios>;
 
 // ---------------------------------------------------------------------------------------------------
 // Two-dimensional Newton's method
