@@ -432,11 +432,13 @@ constexpr int kiGridSpans = GAN_CUBIC_BSPLINE_GRID_SIZE - 1;
 /// Uniform cubic B-spline basis at t in [0, 1] and its derivative.
 void vBasis(double t, double b[4], double db[4])
 {
+    // Products with a sixth: this runs many times per inverted point, and a division costs a dozen products.
+    constexpr double kdSixth = 1.0 / 6.0;
     double const s = 1.0 - t, tt = t * t;
-    b[0] = s * s * s / 6.0;
-    b[1] = (3.0 * tt * t - 6.0 * tt + 4.0) / 6.0;
-    b[2] = (-3.0 * tt * t + 3.0 * tt + 3.0 * t + 1.0) / 6.0;
-    b[3] = tt * t / 6.0;
+    b[0] = s * s * s * kdSixth;
+    b[1] = (3.0 * tt * t - 6.0 * tt + 4.0) * kdSixth;
+    b[2] = (-3.0 * tt * t + 3.0 * tt + 3.0 * t + 1.0) * kdSixth;
+    b[3] = tt * t * kdSixth;
     db[0] = -0.5 * s * s;
     db[1] = 0.5 * (3.0 * tt - 4.0 * t);
     db[2] = 0.5 * (-3.0 * tt + 2.0 * t + 1.0);
@@ -444,10 +446,10 @@ void vBasis(double t, double b[4], double db[4])
 }
 
 /// Span of a grid coordinate: the first of its four control points (before clamping) and the
-/// parameter within the span. Offsets past the grid read as its edge.
-int iSpan(double offset, double zh, double& t)
+/// parameter within the span. Offsets past the grid read as its edge. `inverseZh` is 1 / zh.
+int iSpan(double offset, double inverseZh, double& t)
 {
-    double const g = offset / zh;
+    double const g = offset * inverseZh;
     double const k = ((g > -1.0 ? std::min(g, 1.0) : -1.0) + 1.0) * 0.5 * kiGridSpans;
     int const span = std::min(static_cast<int>(k), kiGridSpans - 1);
     t = k - span;
@@ -458,11 +460,12 @@ int iSpan(double offset, double zh, double& t)
 Linearisation gridMap(Gan_CubicBSplineWeights const& weights, double zh, Point2 const& p)
 {
     double tx = 0.0, ty = 0.0, bx[4], dbx[4], by[4], dby[4];
-    int const col = iSpan(p.x, zh, tx), row = iSpan(p.y, zh, ty);
+    double const inverseZh = 1.0 / zh;
+    int const col = iSpan(p.x, inverseZh, tx), row = iSpan(p.y, inverseZh, ty);
     vBasis(tx, bx, dbx);
     vBasis(ty, by, dby);
     bool const insideX = std::fabs(p.x) <= zh, insideY = std::fabs(p.y) <= zh;
-    double const scale = 0.5 * kiGridSpans / zh;
+    double const scale = 0.5 * kiGridSpans * inverseZh;
     Linearisation l{{p.x, p.y}, {{1.0, 0.0}, {0.0, 1.0}}};
     for (int i = 0; i < 4; ++i) {
         Gan_Vector2 const* line = weights.weight[std::clamp(row + i, 0, kiGridSpans)];
