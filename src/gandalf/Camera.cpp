@@ -390,6 +390,11 @@ struct Anamorphic {
         // determinant 1 + p x + q y + a x^2 + b x y + e y^2 over [0, X] x [0, Y]
         double const p = 3.0 * c[0] + c[2], q = c[1] + 3.0 * c[3], a = 3.0 * c[0] * c[2];
         double const b = 9.0 * c[0] * c[3] - 3.0 * c[1] * c[2], e = 3.0 * c[1] * c[3];
+        // Counting every term against it settles most points without the divisions of the exact minimum.
+        double const dLowest = 1.0 - X * (std::fabs(p) + std::fabs(a) * X + std::fabs(b) * Y) -
+                               Y * (std::fabs(q) + std::fabs(e) * Y);
+        if (dLowest > 0.5)
+            return true;
         double dMin = std::min({dMinQuadratic(1.0, p, a, 0.0, X), dMinQuadratic(1.0, q, e, 0.0, Y),
                                 dMinQuadratic(1.0 + q * Y + e * Y * Y, p + b * Y, a, 0.0, X),
                                 dMinQuadratic(1.0 + p * X + a * X * X, q + b * X, e, 0.0, Y)});
