@@ -153,8 +153,17 @@ struct RadialPolynomial {
                 continue;
             }
             double const step = (x * dFactor(s) - target) / slope;
-            x = x - step < 0.0 ? 0.5 * x : x - step;
-            if (!(std::fabs(step) > std::max(1e-2 * tolerance, 4.0 * DBL_EPSILON * x)))
+            if (x - step < 0.0) {
+                x *= 0.5;
+                continue;
+            }
+            x -= step;
+            double const threshold = std::max(1e-2 * tolerance, 4.0 * DBL_EPSILON * x);
+            // Newton's method leaves an error of about |r''| step^2 / (2 slope): once that is down to
+            // rounding (with a factor 2 to spare), the step that would confirm it changes nothing.
+            double const bend =
+                x * (6.0 * std::fabs(c1) + x * x * (20.0 * std::fabs(c2) + x * x * 42.0 * std::fabs(c3)));
+            if (!(std::fabs(step) > threshold) || bend * step * step <= slope * 4.0 * DBL_EPSILON * x)
                 break;
         }
         double const s = x * x;
