@@ -134,7 +134,7 @@ struct RadialPolynomial {
 
     /// The radius r of the growing branch with r (1 + ...) = target, to `tolerance` both in r and in
     /// the image of r. Newton's method starts from the first terms of the inverse series, which saves
-    /// about two steps on a real lens, and from `target` itself when that start fails.
+    /// a step on a real lens, and from `target` itself when that start fails.
     bool bSolve(double target, double tolerance, double& r) const
     {
         double const tt = target * target;
@@ -153,17 +153,15 @@ struct RadialPolynomial {
                 continue;
             }
             double const step = (x * dFactor(s) - target) / slope;
-            if (x - step < 0.0) {
-                x *= 0.5;
-                continue;
-            }
-            x -= step;
-            double const threshold = std::max(1e-2 * tolerance, 4.0 * DBL_EPSILON * x);
+            double const next = x - step;
+            x = next < 0.0 ? 0.5 * x : next;
+            if (!(std::fabs(step) > std::max(1e-2 * tolerance, 4.0 * DBL_EPSILON * x)))
+                break;
             // Newton's method leaves an error of about |r''| step^2 / (2 slope): once that is down to
             // rounding (with a factor 2 to spare), the step that would confirm it changes nothing.
             double const bend =
                 x * (6.0 * std::fabs(c1) + x * x * (20.0 * std::fabs(c2) + x * x * 42.0 * std::fabs(c3)));
-            if (!(std::fabs(step) > threshold) || bend * step * step <= slope * 4.0 * DBL_EPSILON * x)
+            if (next >= 0.0 && bend * step * step <= slope * 4.0 * DBL_EPSILON * x)
                 break;
         }
         double const s = x * x;
