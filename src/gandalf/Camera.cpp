@@ -580,13 +580,13 @@ bool bSampleMap(Gan_Image const* image, Point2 const& p, Point2& out)
     auto const pixel = [&](unsigned long r, unsigned long c) {
         return static_cast<float const*>(image->pix_data) + (r * image->stride) / sizeof(float) + 2 * c;
     };
-    Point2 q{};
-    double* const channels[2] = {&q.x, &q.y};
-    for (int k = 0; k < 2; ++k) {
+    // Each channel straight into a register: written through pointers, the point came back from memory.
+    auto const channel = [&](int k) {
         double const top = pixel(row, col)[k] + tx * (pixel(row, col2)[k] - pixel(row, col)[k]);
         double const bottom = pixel(row2, col)[k] + tx * (pixel(row2, col2)[k] - pixel(row2, col)[k]);
-        *channels[k] = top + ty * (bottom - top);
-    }
+        return top + ty * (bottom - top);
+    };
+    Point2 const q{channel(0), channel(1)};
     if (!bFinite(q))
         return false;
     out = q;
