@@ -23,9 +23,25 @@ bool bFinite(double d)
     return std::isfinite(d);
 }
 
+/// x * 0 is zero for every finite x and NaN otherwise: a sum of such terms tests several values with one
+/// comparison and one branch, which matters on the per-point paths.
+template <class... Doubles>
+bool bAllFinite(Doubles... values)
+{
+    return ((values * 0.0) + ...) == 0.0;
+}
+
 bool bFinite(Point2 const& p)
 {
-    return bFinite(p.x) && bFinite(p.y);
+    return bAllFinite(p.x, p.y);
+}
+
+/// sqrt(x^2 + y^2). std::hypot guards against overflow and underflow at a cost that dominates the cheap
+/// models; it is needed only where the squares leave the range in which their sum is exact to rounding.
+double dRadius(double x, double y)
+{
+    double const s = x * x + y * y;
+    return s > 1e-290 && s < 1e290 ? std::sqrt(s) : std::hypot(x, y);
 }
 
 Gan_Bool bFail(int* error, int iCode)
@@ -42,10 +58,10 @@ Gan_Bool bSucceed(int* error)
     return GAN_TRUE;
 }
 
-bool bIntrinsicsValid(Gan_Camera const& camera)
+inline bool bIntrinsicsValid(Gan_Camera const& camera)
 {
-    return bFinite(camera.fx) && bFinite(camera.fy) && bFinite(camera.x0) && bFinite(camera.y0) &&
-           bFinite(camera.zh) && camera.fx != 0.0 && camera.fy != 0.0 && camera.zh != 0.0;
+    return bAllFinite(camera.fx, camera.fy, camera.x0, camera.y0, camera.zh) && camera.fx != 0.0 &&
+           camera.fy != 0.0 && camera.zh != 0.0;
 }
 
 bool bCoefficientsFinite(Gan_Camera const& camera, int iCount)
@@ -108,14 +124,27 @@ struct RadialPolynomial {
     double dFactor(double s) const { return 1.0 + s * (c1 + s * (c2 + s * c3)); }
     /// Derivative of the radius map at r, with s = r^2.
     double dSlope(double s) const { return 1.0 + s * (3.0 * c1 + s * (5.0 * c2 + s * 7.0 * c3)); }
-    /// Whether the radius map strictly grows over [0, sqrt(s)].
-    bool bIncreasingUpTo(double s) const { return dMinCubicFromOne(3.0 * c1, 5.0 * c2, 7.0 * c3, s) > 0.0; }
+    /// Whether the radius map strictly grows over [0, sqrt(s)]. The bound that counts every term of the
+    /// slope against it settles most points of a real lens without the divisions of the exact test.
+    bool bIncreasingUpTo(double s) const
+    {
+        double const dLowest = 1.0 - s * (3.0 * std::fabs(c1) + s * (5.0 * std::fabs(c2) + s * 7.0 * std::fabs(c3)));
+        return dLowest > 0.5 || dMinCubicFromOne(3.0 * c1, 5.0 * c2, 7.0 * c3, s) > 0.0;
+    }
 
     /// The radius r of the growing branch with r (1 + ...) = target, to `tolerance` both in r and in
-    /// the image of r.
+    /// the image of r. Newton's method starts from the first terms of the inverse series, which saves
+    /// a step on a real lens, and from `target` itself when that start fails.
     bool bSolve(double target, double tolerance, double& r) const
     {
-        double x = target;
+        double const tt = target * target;
+        double const series = target * (1.0 - tt * (c1 - tt * (3.0 * c1 * c1 - c2)));
+        return (series > 0.0 && series != target && bSolveFrom(series, target, tolerance, r)) ||
+               bSolveFrom(target, target, tolerance, r);
+    }
+
+    bool bSolveFrom(double x, double target, double tolerance, double& r) const
+    {
         for (int i = 0; i < kiMaxIterations; ++i) {
             double const s = x * x;
             double const slope = dSlope(s);
@@ -124,8 +153,15 @@ struct RadialPolynomial {
                 continue;
             }
             double const step = (x * dFactor(s) - target) / slope;
-            x = x - step < 0.0 ? 0.5 * x : x - step;
+            double const next = x - step;
+            x = next < 0.0 ? 0.5 * x : next;
             if (!(std::fabs(step) > std::max(1e-2 * tolerance, 4.0 * DBL_EPSILON * x)))
+                break;
+            // Newton's method leaves an error of about |r''| step^2 / (2 slope): once that is down to
+            // rounding (with a factor 2 to spare), the step that would confirm it changes nothing.
+            double const bend =
+                x * (6.0 * std::fabs(c1) + x * x * (20.0 * std::fabs(c2) + x * x * 42.0 * std::fabs(c3)));
+            if (next >= 0.0 && bend * step * step <= slope * 4.0 * DBL_EPSILON * x)
                 break;
         }
         double const s = x * x;
@@ -157,7 +193,7 @@ bool bScaled(Point2 const& p, double factor, Point2& out)
 /// Moves `p` to the radius that the polynomial maps to its own radius.
 bool bSolvedRadius(RadialPolynomial const& poly, Point2 const& p, double tolerance, Point2& out)
 {
-    double const from = std::hypot(p.x, p.y);
+    double const from = dRadius(p.x, p.y);
     double to = 0.0;
     if (!bFinite(from) || !poly.bSolve(from, tolerance, to))
         return false;
@@ -214,41 +250,77 @@ struct InverseRadial {
     }
 };
 
-/// Fish-eye: the distorted radius as a function of the angle from the axis, and its inverse below
-/// the angle pi / 2.
-template <double (*Radius)(double), double (*Angle)(double), double (*Limit)()>
+/// Fish-eye. `Ratios` gives the ratio rd / r of the distorted to the undistorted radius from r^2
+/// (`dRatio`), the ratio r / rd from rd^2 below the limit (`dInverseRatio`), and `kdLimit`, the
+/// distorted radius at theta = pi / 2. With tan theta = r, the laws reduce to square roots except
+/// the equidistant one, which keeps its arc tangent.
+template <class Ratios>
 struct FishEye {
+    /// Past this r^2 the angle is pi / 2 to double precision and rd is the limit.
+    static constexpr double kdFar = 1e290;
+
     static bool bValid(Gan_Camera const&) { return true; }
     static bool bDistort(Gan_Camera const&, Point2 const& u, Point2& d)
     {
+        double const s = u.x * u.x + u.y * u.y;
+        if (s < kdFar)
+            return bScaled(u, Ratios::dRatio(s), d);
         double const r = std::hypot(u.x, u.y);
-        return bFinite(r) && bScaled(u, r > 0.0 ? Radius(std::atan(r)) / r : 1.0, d);
+        return bFinite(r) && bScaled(u, Ratios::kdLimit / r, d);
     }
     static bool bUndistort(Gan_Camera const&, Point2 const& d, Point2& u)
     {
-        double const rd = std::hypot(d.x, d.y);
-        if (!(rd < Limit()))
+        if (!(dRadius(d.x, d.y) < Ratios::kdLimit))
             return false;
-        return bScaled(d, rd > 0.0 ? std::tan(Angle(rd)) / rd : 1.0, u);
+        return bScaled(d, Ratios::dInverseRatio(d.x * d.x + d.y * d.y), u);
     }
 };
 
-double dStereographic(double theta) { return 2.0 * std::tan(0.5 * theta); }
-double dStereographicAngle(double rd) { return 2.0 * std::atan(0.5 * rd); }
-double dStereographicLimit() { return 2.0; }
-double dEquidistant(double theta) { return theta; }
-double dEquidistantLimit() { return kdHalfPi; }
-double dSineLaw(double theta) { return std::sin(theta); }
-double dSineLawAngle(double rd) { return std::asin(rd); }
-double dSineLawLimit() { return 1.0; }
-double dEquiSolidAngle(double theta) { return 2.0 * std::sin(0.5 * theta); }
-double dEquiSolidAngleAngle(double rd) { return 2.0 * std::asin(0.5 * rd); }
-double dEquiSolidAngleLimit() { return kdSqrt2; }
+/// rd = 2 tan(theta / 2) = 2 r / (1 + sqrt(1 + r^2)); theta = 2 atan(rd / 2) gives r = rd / (1 - rd^2 / 4).
+struct StereographicRatios {
+    static constexpr double kdLimit = 2.0;
+    static double dRatio(double s) { return 2.0 / (1.0 + std::sqrt(1.0 + s)); }
+    static double dInverseRatio(double sd) { return 1.0 / (1.0 - 0.25 * sd); }
+};
 
-using Stereographic = FishEye<dStereographic, dStereographicAngle, dStereographicLimit>;
-using Equidistant = FishEye<dEquidistant, dEquidistant, dEquidistantLimit>;
-using SineLaw = FishEye<dSineLaw, dSineLawAngle, dSineLawLimit>;
-using EquiSolidAngle = FishEye<dEquiSolidAngle, dEquiSolidAngleAngle, dEquiSolidAngleLimit>;
+/// rd = theta = atan r.
+struct EquidistantRatios {
+    static constexpr double kdLimit = kdHalfPi;
+    static double dRatio(double s)
+    {
+        double const r = std::sqrt(s);
+        return r > 0.0 ? std::atan(r) / r : 1.0;
+    }
+    static double dInverseRatio(double sd)
+    {
+        double const rd = std::sqrt(sd);
+        return rd > 0.0 ? std::tan(rd) / rd : 1.0;
+    }
+};
+
+/// rd = sin theta = r / sqrt(1 + r^2), so r = rd / sqrt(1 - rd^2).
+struct SineLawRatios {
+    static constexpr double kdLimit = 1.0;
+    static double dRatio(double s) { return 1.0 / std::sqrt(1.0 + s); }
+    static double dInverseRatio(double sd) { return 1.0 / std::sqrt(1.0 - sd); }
+};
+
+/// rd = 2 sin(theta / 2) = r sqrt(2 / (c (1 + c))) with c = sqrt(1 + r^2) = 1 / cos theta; back,
+/// r = tan theta = rd sqrt(1 - rd^2 / 4) / (1 - rd^2 / 2).
+struct EquiSolidAngleRatios {
+    static constexpr double kdLimit = kdSqrt2;
+    static double dRatio(double s)
+    {
+        double const c = std::sqrt(1.0 + s);
+        return std::sqrt(2.0 / (c * (1.0 + c)));
+    }
+    static double dInverseRatio(double sd) { return std::sqrt(1.0 - 0.25 * sd) / (1.0 - 0.5 * sd); }
+};
+
+using Stereographic = FishEye<StereographicRatios>;
+using Equidistant = FishEye<EquidistantRatios>;
+using SineLaw = FishEye<SineLawRatios>;
+using EquiSolidAngle = FishEye<EquiSolidAngleRatios>;
 
 // ---------------------------------------------------------------------------------------------------
 // Two-dimensional Newton's method
@@ -325,6 +397,11 @@ struct Anamorphic {
         // determinant 1 + p x + q y + a x^2 + b x y + e y^2 over [0, X] x [0, Y]
         double const p = 3.0 * c[0] + c[2], q = c[1] + 3.0 * c[3], a = 3.0 * c[0] * c[2];
         double const b = 9.0 * c[0] * c[3] - 3.0 * c[1] * c[2], e = 3.0 * c[1] * c[3];
+        // Counting every term against it settles most points without the divisions of the exact minimum.
+        double const dLowest = 1.0 - X * (std::fabs(p) + std::fabs(a) * X + std::fabs(b) * Y) -
+                               Y * (std::fabs(q) + std::fabs(e) * Y);
+        if (dLowest > 0.5)
+            return true;
         double dMin = std::min({dMinQuadratic(1.0, p, a, 0.0, X), dMinQuadratic(1.0, q, e, 0.0, Y),
                                 dMinQuadratic(1.0 + q * Y + e * Y * Y, p + b * Y, a, 0.0, X),
                                 dMinQuadratic(1.0 + p * X + a * X * X, q + b * X, e, 0.0, Y)});
@@ -367,11 +444,13 @@ constexpr int kiGridSpans = GAN_CUBIC_BSPLINE_GRID_SIZE - 1;
 /// Uniform cubic B-spline basis at t in [0, 1] and its derivative.
 void vBasis(double t, double b[4], double db[4])
 {
+    // Products with a sixth: this runs many times per inverted point, and a division costs a dozen products.
+    constexpr double kdSixth = 1.0 / 6.0;
     double const s = 1.0 - t, tt = t * t;
-    b[0] = s * s * s / 6.0;
-    b[1] = (3.0 * tt * t - 6.0 * tt + 4.0) / 6.0;
-    b[2] = (-3.0 * tt * t + 3.0 * tt + 3.0 * t + 1.0) / 6.0;
-    b[3] = tt * t / 6.0;
+    b[0] = s * s * s * kdSixth;
+    b[1] = (3.0 * tt * t - 6.0 * tt + 4.0) * kdSixth;
+    b[2] = (-3.0 * tt * t + 3.0 * tt + 3.0 * t + 1.0) * kdSixth;
+    b[3] = tt * t * kdSixth;
     db[0] = -0.5 * s * s;
     db[1] = 0.5 * (3.0 * tt - 4.0 * t);
     db[2] = 0.5 * (-3.0 * tt + 2.0 * t + 1.0);
@@ -379,10 +458,10 @@ void vBasis(double t, double b[4], double db[4])
 }
 
 /// Span of a grid coordinate: the first of its four control points (before clamping) and the
-/// parameter within the span. Offsets past the grid read as its edge.
-int iSpan(double offset, double zh, double& t)
+/// parameter within the span. Offsets past the grid read as its edge. `inverseZh` is 1 / zh.
+int iSpan(double offset, double inverseZh, double& t)
 {
-    double const g = offset / zh;
+    double const g = offset * inverseZh;
     double const k = ((g > -1.0 ? std::min(g, 1.0) : -1.0) + 1.0) * 0.5 * kiGridSpans;
     int const span = std::min(static_cast<int>(k), kiGridSpans - 1);
     t = k - span;
@@ -393,11 +472,12 @@ int iSpan(double offset, double zh, double& t)
 Linearisation gridMap(Gan_CubicBSplineWeights const& weights, double zh, Point2 const& p)
 {
     double tx = 0.0, ty = 0.0, bx[4], dbx[4], by[4], dby[4];
-    int const col = iSpan(p.x, zh, tx), row = iSpan(p.y, zh, ty);
+    double const inverseZh = 1.0 / zh;
+    int const col = iSpan(p.x, inverseZh, tx), row = iSpan(p.y, inverseZh, ty);
     vBasis(tx, bx, dbx);
     vBasis(ty, by, dby);
     bool const insideX = std::fabs(p.x) <= zh, insideY = std::fabs(p.y) <= zh;
-    double const scale = 0.5 * kiGridSpans / zh;
+    double const scale = 0.5 * kiGridSpans * inverseZh;
     Linearisation l{{p.x, p.y}, {{1.0, 0.0}, {0.0, 1.0}}};
     for (int i = 0; i < 4; ++i) {
         Gan_Vector2 const* line = weights.weight[std::clamp(row + i, 0, kiGridSpans)];
@@ -500,13 +580,13 @@ bool bSampleMap(Gan_Image const* image, Point2 const& p, Point2& out)
     auto const pixel = [&](unsigned long r, unsigned long c) {
         return static_cast<float const*>(image->pix_data) + (r * image->stride) / sizeof(float) + 2 * c;
     };
-    Point2 q{};
-    double* const channels[2] = {&q.x, &q.y};
-    for (int k = 0; k < 2; ++k) {
+    // Each channel straight into a register: written through pointers, the point came back from memory.
+    auto const channel = [&](int k) {
         double const top = pixel(row, col)[k] + tx * (pixel(row, col2)[k] - pixel(row, col)[k]);
         double const bottom = pixel(row2, col)[k] + tx * (pixel(row2, col2)[k] - pixel(row2, col)[k]);
-        *channels[k] = top + ty * (bottom - top);
-    }
+        return top + ty * (bottom - top);
+    };
+    Point2 const q{channel(0), channel(1)};
     if (!bFinite(q))
         return false;
     out = q;
@@ -548,9 +628,9 @@ struct NoModel {
 // ---------------------------------------------------------------------------------------------------
 // The point functions
 
-bool bPointValid(Gan_Vector3 const& p)
+inline bool bPointValid(Gan_Vector3 const& p)
 {
-    return bFinite(p.x) && bFinite(p.y) && bFinite(p.z) && p.z != 0.0;
+    return bAllFinite(p.x, p.y, p.z) && p.z != 0.0;
 }
 
 template <class Model>

@@ -57,6 +57,12 @@
 /// it; `gan_camera_internalize` checks them all. The functions never write to the error trace (they
 /// run per point), allocate nothing and read nothing outside the images or the weight table. They
 /// are thread-safe.
+///
+/// The point functions judge the camera by its fields at each call, not by what
+/// `gan_camera_internalize` saw: a camera refilled in place (a warp's cameras are, from their
+/// parameters) stays safe and is judged afresh, and needs internalizing again only when its `type`
+/// changes, since the installed functions are those of the type at the last call. The checks cost a
+/// few comparisons per point, next to the divisions that every projection needs.
 #include "gandalf/BSpline.h"
 #include "gandalf/CameraType.h"
 #include "gandalf/Common.h"

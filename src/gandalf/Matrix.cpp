@@ -51,11 +51,4 @@ Gan_Matrix33* gan_mat33_invert(Gan_Matrix33 const* source, Gan_Matrix33* destina
     return destination;
 }
 
-Gan_Vector3 gan_mat33_multv3_s(Gan_Matrix33 const* m, Gan_Vector3 const* v)
-{
-    return Gan_Vector3{m->xx * v->x + m->xy * v->y + m->xz * v->z,
-                       m->yx * v->x + m->yy * v->y + m->yz * v->z,
-                       m->zx * v->x + m->zy * v->y + m->zz * v->z};
-}
-
 } // extern "C"

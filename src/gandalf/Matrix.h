@@ -24,8 +24,21 @@ Gan_Matrix33 gan_mat33_ident_s(void);
 /// code on failure.
 Gan_Matrix33* gan_mat33_invert(Gan_Matrix33 const* source, Gan_Matrix33* destination, int* error);
 
-/// The product `matrix` times `vector`.
-Gan_Vector3 gan_mat33_multv3_s(Gan_Matrix33 const* matrix, Gan_Vector3 const* vector);
+/// The product `matrix` times `vector`. Defined in the header so that per-point callers inline it; C
+/// callers get a static copy, so no library symbol is needed.
+#ifdef __cplusplus
+inline
+#else
+static inline
+#endif
+Gan_Vector3 gan_mat33_multv3_s(Gan_Matrix33 const* matrix, Gan_Vector3 const* vector)
+{
+    Gan_Matrix33 const* const m = matrix;
+    Gan_Vector3 const* const v = vector;
+    Gan_Vector3 const r = {m->xx * v->x + m->xy * v->y + m->xz * v->z, m->yx * v->x + m->yy * v->y + m->yz * v->z,
+                           m->zx * v->x + m->zy * v->y + m->zz * v->z};
+    return r;
+}
 
 #ifdef __cplusplus
 }
