@@ -8,8 +8,10 @@ namespace Prm {
 /// into the arguments of the inner call: entry 0 the time, entry 1 the value, then the interpolation name or
 /// the four Bezier numbers. The arguments start after the last opening parenthesis in front of the first
 /// comma and end at the parenthesis that closes that call (or at the end of the line). Commas and
-/// parentheses between double quotes do not count, so a quoted text value may hold them. Each entry is
-/// trimmed of blanks outside its quotes. A line without an opening parenthesis in front of its first comma
+/// parentheses between double quotes do not count, so a quoted text value may hold them. A value entry that
+/// opens with a double quote but whose quotes do not pair up as written (a text holding `"`, or `a"b, c`)
+/// runs to the last double quote of the line, as long as at least one entry follows it; so every text
+/// without a line break comes back whole. Each entry is trimmed of blanks outside its quotes. A line without an opening parenthesis in front of its first comma
 /// gives no entries; no line makes this fail or throw.
 QStringList parseKeyframeDeclaration(QString line);
 
