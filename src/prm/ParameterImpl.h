@@ -73,7 +73,7 @@ template <class T>
 Parameter<T>& Parameter<T>::operator=(Parameter const& other)
 {
     displayName = other.displayName;
-    scriptName = other.scriptName;
+    vAssignScriptName(other.scriptName);
     bHidden = other.bHidden;
     bKeyframed = other.bKeyframed;
     tStaticValue = other.tStaticValue;

@@ -1,6 +1,25 @@
 #include "prm/ParameterLineRouter.h"
 
+#include <atomic>
+
 namespace Prm {
+
+namespace {
+
+// Objects are made and renamed on any thread; only the count is shared.
+std::atomic<unsigned int> namesGeneration{1};
+
+} // namespace
+
+void ParameterLineRouter::vNamesChanged()
+{
+    namesGeneration.fetch_add(1, std::memory_order_relaxed);
+}
+
+unsigned int ParameterLineRouter::uiNamesGeneration()
+{
+    return namesGeneration.load(std::memory_order_relaxed);
+}
 
 int ParameterLineRouter::iChoose(QString const& name, int candidateCount, TextField field)
 {

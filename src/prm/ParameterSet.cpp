@@ -34,31 +34,23 @@ bool bStreamInParameter(ParameterWithoutType& parameter, QString const& line)
     return parameter.streamInValue(line, boost::function<QString(QString const&)>());
 }
 
-// The `index`-th of the basic parameters named `name`.
-bool bStreamInBasic(QVector<BasicParameter*> const& basicParameters, QString const& name, int index,
-                    QString const& line)
-{
-    for (BasicParameter* parameter : basicParameters) {
-        if (parameter && parameter->scriptName() == name && index-- == 0)
-            return parameter->bStreamIn(line);
-    }
-    return false;
-}
-
 } // namespace
 
 ParameterSet::ParameterSet(QString const& name, ParameterTree*)
     : bBasicParametersOwned(false), displayName(name), scriptName(name)
 {
+    ParameterLineRouter::vNamesChanged();
 }
 
 ParameterSet::ParameterSet(ParameterSet const& other)
     : bBasicParametersOwned(false), displayName(other.displayName), scriptName(other.scriptName)
 {
+    ParameterLineRouter::vNamesChanged();
 }
 
 ParameterSet::~ParameterSet()
 {
+    ParameterLineRouter::vNamesChanged();
     // A parameter that outlives its set must not keep a dangling owner.
     for (QPointer<ParameterWithoutType> const& parameter : parameters) {
         if (parameter && parameter->pOwner == this)
@@ -77,11 +69,13 @@ void ParameterSet::setDisplayName(QString const& newDisplayName, QString const& 
 {
     displayName = newDisplayName;
     scriptName = newScriptName;
+    ParameterLineRouter::vNamesChanged();
 }
 
 void ParameterSet::setScriptName(QString const& name)
 {
     scriptName = name;
+    ParameterLineRouter::vNamesChanged();
 }
 
 bool ParameterSet::bStreamOut(QTextStream& out, QString const& prefix, bool bQualify)
@@ -109,25 +103,33 @@ bool ParameterSet::bStreamIn(QString const& line)
         return false;
     QString const name = line.left(dot);
     QString const rest = line.mid(dot + 1);
-    auto const nameOf = [this](int position) -> QString const* {
-        ParameterWithoutType const* parameter = parameters.at(position).data();
-        return parameter ? &parameter->qstrScriptName() : nullptr;
+    auto const nameOf = [this](int list, int position) -> QString const* {
+        if (list == ParameterLineRouter::Parameters) {
+            ParameterWithoutType const* parameter = parameters.at(position).data();
+            return parameter ? &parameter->qstrScriptName() : nullptr;
+        }
+        if (list == ParameterLineRouter::BasicParameters) {
+            BasicParameter const* parameter = basicParameters.at(position);
+            return parameter ? &parameter->scriptName() : nullptr;
+        }
+        ParameterSet const* child = childSets.at(position);
+        return child ? &child->scriptName : nullptr;
     };
-    QVector<int> const positions = lineRouter.positionsOf(name, parameters.size(), nameOf);
-    int basicCount = 0;
-    for (BasicParameter* parameter : basicParameters) {
-        if (parameter && parameter->scriptName() == name)
-            ++basicCount;
-    }
-    int const count = positions.size() + basicCount;
+    LineTargets const& targets = lineRouter.targetsOf(
+        name, {{parameters.size(), basicParameters.size(), childSets.size()}}, nameOf);
+    int const parameterCount = targets.parameters.size();
+    int const count = parameterCount + targets.basicParameters.size();
     if (count > 0) {
         int const chosen = count > 1 ? lineRouter.iChoose(name, count, eTextField(rest)) : 0;
-        if (chosen < positions.size() ? bStreamInParameter(*parameters.at(positions.at(chosen)), rest)
-                                      : bStreamInBasic(basicParameters, name, chosen - positions.size(), rest))
+        if (chosen < parameterCount ? bStreamInParameter(*parameters.at(targets.parameters.at(chosen)), rest)
+                                    : basicParameters.at(targets.basicParameters.at(chosen - parameterCount))
+                                          ->bStreamIn(rest))
             return true;
     }
-    for (ParameterSet* child : childSets) {
-        if (child && child->scriptName == name && child->bStreamIn(rest))
+    // A child may take the line only after the index above is done with: copy its positions.
+    QVector<int> const children = targets.childSets;
+    for (int position : children) {
+        if (childSets.at(position)->bStreamIn(rest))
             return true;
     }
     return false;
@@ -137,6 +139,7 @@ void ParameterSet::assignName(QString const& name)
 {
     displayName = name;
     scriptName = name;
+    ParameterLineRouter::vNamesChanged();
 }
 
 void ParameterSet::addParameter(ParameterWithoutType* parameter)
@@ -163,6 +166,7 @@ ParameterSet& ParameterSet::operator=(ParameterSet const& other)
 {
     displayName = other.displayName;
     scriptName = other.scriptName;
+    ParameterLineRouter::vNamesChanged();
     return *this;
 }
 

@@ -1,5 +1,6 @@
 #include "prm/ParameterWithoutType.h"
 
+#include "prm/ParameterLineRouter.h"
 #include "prm/ParameterSet.h"
 
 namespace Prm {
@@ -16,6 +17,7 @@ ParameterWithoutType* masterOf(ParameterWithoutType const* parameter)
 ParameterWithoutType::ParameterWithoutType()
     : QObject(), bHidden(false), pOwner(nullptr)
 {
+    ParameterLineRouter::vNamesChanged();
 }
 
 ParameterWithoutType::ParameterWithoutType(ParameterWithoutType const& other)
@@ -27,10 +29,12 @@ ParameterWithoutType::ParameterWithoutType(ParameterWithoutType const& other)
       bHidden(other.bHidden),
       pOwner(nullptr)
 {
+    ParameterLineRouter::vNamesChanged();
 }
 
 ParameterWithoutType::~ParameterWithoutType()
 {
+    ParameterLineRouter::vNamesChanged();
     if (ParameterWithoutType* oldMaster = masterOf(this))
         oldMaster->followers.removeAll(QPointer<ParameterWithoutType>(this));
 }
@@ -114,6 +118,15 @@ void ParameterWithoutType::setDisplayName(QString const& name)
 void ParameterWithoutType::setScriptName(QString const& name)
 {
     scriptName = name;
+    ParameterLineRouter::vNamesChanged();
+}
+
+void ParameterWithoutType::vAssignScriptName(QString const& name)
+{
+    if (scriptName == name)
+        return;
+    scriptName = name;
+    ParameterLineRouter::vNamesChanged();
 }
 
 void ParameterWithoutType::vRaise(ParameterChange::ParameterChanges kind, unsigned int index)
