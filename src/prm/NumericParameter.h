@@ -76,6 +76,7 @@ public:
     ParamExtrapolator<T> const* customExtrapolationMethod(Extrapolation extrapolation) const override;
     /// Reads one line without a text filter (the text format).
     virtual bool bStreamIn(QString const& line);
+    bool bStreamInFromSet(QString const& line) override { return bStreamIn(line); }
 
     /// `unsigned int` and `float` only: scales every key's (clamped) value by `factor`; a parameter
     /// without keys is left alone, and a key at a NaN time (read from a damaged text) keeps its value.

@@ -221,13 +221,21 @@ int Parameter<T>::vSetValue(T const& newValue, float time)
         vRaise(ParameterChange::ValueChanged, static_cast<unsigned int>(-1));
         return -1;
     }
-    int index = iKeyIndex(time);
+    // iKeyIndex and iNextKeyIndex in one pass: the first key at `time`, else the first key after it.
+    int index = -1;
+    int next = -1;
+    for (int i = 0, n = keyframes.size(); i < n && index < 0; ++i) {
+        float const keyTime = keyframes[i].fTime;
+        if (keyTime == time)
+            index = i;
+        else if (next < 0 && keyTime > time)
+            next = i;
+    }
     if (index >= 0) {
         keyframes[index].tValue = newValue;
         vRaise(ParameterChange::ValueChanged, static_cast<unsigned int>(index));
         return index;
     }
-    int const next = iNextKeyIndex(time);
     // A set key takes the kind of the segment it will start, unlike iAddKeyframe.
     Interpolation const kind = next == -1 ? eDefaultInterpolation : eRecordKind(next);
     index = iInsertKey(KeyframeData<T>{time, newValue}, next, kind);

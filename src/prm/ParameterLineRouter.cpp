@@ -25,7 +25,11 @@ int ParameterLineRouter::iChoose(QString const& name, int candidateCount, TextFi
 {
     if (candidateCount <= 1)
         return 0;
-    Cursor& cursor = cursors[name];
+    auto found = cursors.find(name);
+    // The key is kept: a deep copy, as `name` may borrow a caller's characters.
+    if (found == cursors.end())
+        found = cursors.insert(QString(name.constData(), name.size()), Cursor());
+    Cursor& cursor = *found;
     if (cursor.iCandidate >= candidateCount)
         cursor = Cursor();
     if (field == TextField::Unknown)

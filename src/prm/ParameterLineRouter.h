@@ -34,11 +34,13 @@ public:
     enum List { Parameters = 0, BasicParameters = 1, ChildSets = 2 };
 
     /// Index, among `candidateCount` parameters named `name` in set order, of the one that takes a line
-    /// of `field`. A line of unknown field goes to the current block and changes nothing.
+    /// of `field`. A line of unknown field goes to the current block and changes nothing. `name` may
+    /// borrow its characters (`QString::fromRawData`): nothing keeps it.
     int iChoose(QString const& name, int candidateCount, TextField field);
 
     /// The targets of `name` among lists of `counts` entries, where `nameOf(list, position)` gives an
-    /// entry's name (null for an entry that is gone). The reference lives until the next call.
+    /// entry's name (null for an entry that is gone). The reference lives until the next call. `name`
+    /// may borrow its characters: nothing keeps it.
     template <class NameOf>
     LineTargets const& targetsOf(QString const& name, std::array<int, 3> const& counts, NameOf nameOf);
 

@@ -1,40 +1,11 @@
 #include "prm/ParameterSet.h"
 
 #include "prm/BasicParameter.h"
-#include "prm/NumericParameter.h"
 #include "prm/ParameterWithoutType.h"
 
 #include <QTextStream>
 
 namespace Prm {
-
-namespace {
-
-template <class T>
-bool bStreamInNumeric(ParameterWithoutType& parameter, QString const& line, bool& bRead)
-{
-    auto* numeric = dynamic_cast<NumericParameter<T>*>(&parameter);
-    if (numeric)
-        bRead = numeric->bStreamIn(line);
-    return numeric != nullptr;
-}
-
-// A numeric parameter reads through its own bStreamIn, which also repairs a failed key line; the
-// others take the line without a filter.
-bool bStreamInParameter(ParameterWithoutType& parameter, QString const& line)
-{
-    bool bRead = false;
-    if (dynamic_cast<NumericParameterWithoutType*>(&parameter)
-        && (bStreamInNumeric<double>(parameter, line, bRead) || bStreamInNumeric<float>(parameter, line, bRead)
-            || bStreamInNumeric<int>(parameter, line, bRead)
-            || bStreamInNumeric<unsigned int>(parameter, line, bRead)
-            || bStreamInNumeric<bool>(parameter, line, bRead)
-            || bStreamInNumeric<unsigned char>(parameter, line, bRead)))
-        return bRead;
-    return parameter.streamInValue(line, boost::function<QString(QString const&)>());
-}
-
-} // namespace
 
 ParameterSet::ParameterSet(QString const& name, ParameterTree*)
     : bBasicParametersOwned(false), displayName(name), scriptName(name)
@@ -101,7 +72,8 @@ bool ParameterSet::bStreamIn(QString const& line)
     int const dot = line.indexOf(QLatin1Char('.'));
     if (dot <= 0)
         return false;
-    QString const name = line.left(dot);
+    // The name only looks things up, so it may borrow the line's characters.
+    QString const name = QString::fromRawData(line.constData(), dot);
     QString const rest = line.mid(dot + 1);
     auto const nameOf = [this](int list, int position) -> QString const* {
         if (list == ParameterLineRouter::Parameters) {
@@ -121,7 +93,7 @@ bool ParameterSet::bStreamIn(QString const& line)
     int const count = parameterCount + targets.basicParameters.size();
     if (count > 0) {
         int const chosen = count > 1 ? lineRouter.iChoose(name, count, eTextField(rest)) : 0;
-        if (chosen < parameterCount ? bStreamInParameter(*parameters.at(targets.parameters.at(chosen)), rest)
+        if (chosen < parameterCount ? parameters.at(targets.parameters.at(chosen))->bStreamInFromSet(rest)
                                     : basicParameters.at(targets.basicParameters.at(chosen - parameterCount))
                                           ->bStreamIn(rest))
             return true;

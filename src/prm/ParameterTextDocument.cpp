@@ -20,6 +20,16 @@ void vCollectParameters(ParameterSet const& set, QVector<ParameterWithoutType*>&
     }
 }
 
+// As trimmed().isEmpty(), without the copy.
+bool bBlank(QString const& line)
+{
+    for (QChar const c : line) {
+        if (!c.isSpace())
+            return false;
+    }
+    return true;
+}
+
 // True when the follower already follows the parameter its text names.
 bool bBoundAsNamed(ParameterWithoutType const& follower)
 {
@@ -61,7 +71,7 @@ int ParameterTextDocument::iRead(QTextStream& in)
     int taken = 0;
     QString line;
     for (int number = 1; in.readLineInto(&line); ++number) {
-        if (line.trimmed().isEmpty())
+        if (bBlank(line))
             continue;
         if (bReadLine(line)) {
             ++taken;

@@ -129,6 +129,11 @@ void ParameterWithoutType::vAssignScriptName(QString const& name)
     ParameterLineRouter::vNamesChanged();
 }
 
+bool ParameterWithoutType::bStreamInFromSet(QString const& line)
+{
+    return streamInValue(line, boost::function<QString(QString const&)>());
+}
+
 void ParameterWithoutType::vRaise(ParameterChange::ParameterChanges kind, unsigned int index)
 {
     ParameterChange change(kind, this, index);

@@ -68,6 +68,9 @@ public:
     virtual void setValueFromString(QString const& text, float time) = 0;
     virtual bool bStreamOut(QTextStream& out, QString const& prefix, bool bQualify) const = 0;
     virtual bool streamInValue(QString const& line, boost::function<QString(QString const&)> textFilter) = 0;
+    /// Reads one line handed on by the owning set: `streamInValue` without a filter here; a numeric
+    /// parameter reads through its own `bStreamIn`, which also repairs a failed key line.
+    virtual bool bStreamInFromSet(QString const& line);
     virtual void vSetExtrapolationBefore(Extrapolation extrapolation) = 0;
     virtual void vSetExtrapolationAfter(Extrapolation extrapolation) = 0;
     virtual void vSetInterpolation(Interpolation interpolation, float time) = 0;
