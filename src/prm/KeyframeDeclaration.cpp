@@ -51,25 +51,24 @@ int iEntryEnd(QString const& line, int from, bool& bLast)
     return line.size();
 }
 
-QString qstrEntry(QString const& line, int from, int to)
+QStringRef entryRef(QString const& line, int from, int to)
 {
-    return line.midRef(from, to - from).trimmed().toString();
+    return line.midRef(from, to - from).trimmed();
 }
 
 // Appends the entries from `from` to the end of the call; an empty last entry counts only behind others.
-void vAppendEntries(QString const& line, int from, QStringList& entries)
+void vAppendEntries(QString const& line, int from, KeyframeEntries& entries)
 {
-    // Entries are cut out of the line whole: one allocation each on the load path.
     for (int entryStart = from;;) {
         bool bLast = false;
         int const end = iEntryEnd(line, entryStart, bLast);
-        QString const entry = qstrEntry(line, entryStart, end);
+        QStringRef const entry = entryRef(line, entryStart, end);
         if (!bLast) {
-            entries << entry;
+            entries.append(entry);
             entryStart = end + 1;
         } else {
             if (!entry.isEmpty() || !entries.isEmpty())
-                entries << entry;
+                entries.append(entry);
             return;
         }
     }
@@ -87,7 +86,7 @@ int iSkipBlanks(QString const& line, int from)
 // between two of them), the value really runs from its opening quote to the last quote of the line. The
 // entries are taken that way when the rest still gives at least an interpolation; a line whose quotes
 // pair up around the value as written is split as before.
-void vJoinQuotedValue(QString const& line, int start, QStringList& entries)
+void vJoinQuotedValue(QString const& line, int start, KeyframeEntries& entries)
 {
     if (entries.size() < 2 || !entries.at(1).startsWith(quote))
         return;
@@ -100,26 +99,35 @@ void vJoinQuotedValue(QString const& line, int start, QStringList& entries)
     int const next = iSkipBlanks(line, close + 1);
     if (next >= line.size() || line.at(next) != QLatin1Char(','))
         return;
-    QStringList joined;
-    joined.reserve(6);
-    joined << entries.at(0) << line.mid(open, close - open + 1);
+    KeyframeEntries joined;
+    joined.append(entries.at(0));
+    joined.append(line.midRef(open, close - open + 1));
     vAppendEntries(line, next + 1, joined);
     if (joined.size() >= 3)
-        entries.swap(joined);
+        entries = joined;
 }
 
 } // namespace
 
-QStringList parseKeyframeDeclaration(QString line)
+void vKeyframeDeclarationEntries(QString const& line, KeyframeEntries& entries)
 {
-    QStringList entries;
+    entries.clear();
     int const start = iArgumentStart(line);
     if (start < 0)
-        return entries;
-    entries.reserve(6);
+        return;
     vAppendEntries(line, start, entries);
     vJoinQuotedValue(line, start, entries);
-    return entries;
+}
+
+QStringList parseKeyframeDeclaration(QString line)
+{
+    KeyframeEntries entries;
+    vKeyframeDeclarationEntries(line, entries);
+    QStringList list;
+    list.reserve(entries.size());
+    for (QStringRef const& entry : entries)
+        list << entry.toString();
+    return list;
 }
 
 } // namespace Prm

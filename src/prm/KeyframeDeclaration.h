@@ -1,6 +1,8 @@
 #pragma once
 #include <QString>
 #include <QStringList>
+#include <QStringRef>
+#include <QVarLengthArray>
 
 namespace Prm {
 
@@ -14,5 +16,11 @@ namespace Prm {
 /// without a line break comes back whole. Each entry is trimmed of blanks outside its quotes. A line without an opening parenthesis in front of its first comma
 /// gives no entries; no line makes this fail or throw.
 QStringList parseKeyframeDeclaration(QString line);
+
+/// The entries of a key line as `parseKeyframeDeclaration` gives them, as views into `line`.
+using KeyframeEntries = QVarLengthArray<QStringRef, 8>;
+
+/// The same entries without a copy each, for the reader: they live as long as `line` is unchanged.
+void vKeyframeDeclarationEntries(QString const& line, KeyframeEntries& entries);
 
 } // namespace Prm

@@ -28,17 +28,23 @@ LineRead eReadKeyLine(Parameter<T>& parameter, QString const& line,
 {
     // Only the case-sensitive block word tells the two blocks apart, wherever it stands.
     bool const bBezier = line.contains(QLatin1String("BezierKey"), Qt::CaseSensitive);
-    QStringList tokens = parseKeyframeDeclaration(line);
+    // The entries of parseKeyframeDeclaration, as views: no copy of each on the load path.
+    KeyframeEntries tokens;
+    vKeyframeDeclarationEntries(line, tokens);
     if (tokens.size() < 3) {
         vLogKeyFailure("Key", line);
         return LineRead::Failed;
     }
     float const time = tokens.at(0).toFloat();
-    QString text = textFilter ? textFilter(tokens.at(1)) : tokens.at(1);
-    int const index = parameter.vSetValue(ValueText<T>::tRead(text), time);
+    T value{};
+    if (textFilter || !NumberText::bReadPlain(tokens.at(1), value)) {
+        QString text = textFilter ? textFilter(tokens.at(1).toString()) : tokens.at(1).toString();
+        value = ValueText<T>::tRead(text);
+    }
+    int const index = parameter.vSetValue(value, time);
     if (!bBezier) {
         Interpolation interpolation = InterpolationUnset;
-        if (bStringToInterpolationType(tokens.at(2), interpolation))
+        if (bInterpolationOfEntry(tokens.at(2), interpolation))
             parameter.vSetInterpolation(interpolation, time);
         return LineRead::Taken;
     }
@@ -51,7 +57,7 @@ LineRead eReadKeyLine(Parameter<T>& parameter, QString const& line,
     record.dOutTime = tokens.at(2).toDouble();
     record.dOutValue = tokens.at(3).toDouble();
     record.dInTime = tokens.at(4).toDouble();
-    record.dInValue = tokens[5].remove(QLatin1Char(')')).toDouble();
+    record.dInValue = tokens.at(5).toString().remove(QLatin1Char(')')).toDouble();
     // -1 (not keyframed) becomes an index out of range, which the setter ignores.
     parameter.vSetInterpolationData(record, static_cast<unsigned int>(index));
     return LineRead::Taken;

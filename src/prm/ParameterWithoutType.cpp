@@ -136,6 +136,9 @@ bool ParameterWithoutType::bStreamInFromSet(QString const& line)
 
 void ParameterWithoutType::vRaise(ParameterChange::ParameterChanges kind, unsigned int index)
 {
+    // Blocked signals reach no one: a read with signals blocked need not build the change.
+    if (signalsBlocked())
+        return;
     ParameterChange change(kind, this, index);
     emit changed(change);
 }

@@ -8,7 +8,8 @@ namespace NumberText {
 
 /// Whether `text` as a whole is a plain decimal number: an optional minus, digits, optionally a point and
 /// digits, optionally `e` or `E`, a sign and one or two digits.
-inline bool bPlainReal(QString const& text)
+template <class Text>
+bool bPlainReal(Text const& text)
 {
     int const n = text.size();
     int i = (n > 0 && text.at(0) == QLatin1Char('-')) ? 1 : 0;
@@ -35,9 +36,10 @@ inline bool bPlainReal(QString const& text)
 
 /// A decimal integer without a leading zero (the stream would read that as octal), of at most nine
 /// digits, with a minus only when `bSigned`.
-inline bool bPlainInteger(QString const& text, bool bSigned)
+template <class Text>
+bool bPlainInteger(Text const& text, bool bSigned)
 {
-    int const start = (bSigned && text.startsWith(QLatin1Char('-'))) ? 1 : 0;
+    int const start = (bSigned && text.startsWith(QChar(QLatin1Char('-')))) ? 1 : 0;
     int const digitCount = text.size() - start;
     if (digitCount < 1 || digitCount > 9 || (text.at(start) == QLatin1Char('0') && digitCount > 1))
         return false;
@@ -48,10 +50,11 @@ inline bool bPlainInteger(QString const& text, bool bSigned)
     return true;
 }
 
-/// Reads `text` without building a stream when it is a number whose every reading agrees: the stream's
+/// Reads `text` (a QString or a QStringRef) without building a stream when it is a number whose every reading agrees: the stream's
 /// readers and QString's conversions both round correctly in the C locale. False, `value` untouched, for
 /// any other text, which the caller reads through a stream as before.
-inline bool bReadPlain(QString const& text, double& value)
+template <class Text>
+bool bReadPlain(Text const& text, double& value)
 {
     if (!bPlainReal(text))
         return false;
@@ -60,7 +63,8 @@ inline bool bReadPlain(QString const& text, double& value)
 }
 
 /// As the stream: the double, narrowed; only within the float range.
-inline bool bReadPlain(QString const& text, float& value)
+template <class Text>
+bool bReadPlain(Text const& text, float& value)
 {
     double wide = 0.0;
     if (!bReadPlain(text, wide) || wide > 3.4028234663852886e38 || wide < -3.4028234663852886e38)
@@ -69,7 +73,8 @@ inline bool bReadPlain(QString const& text, float& value)
     return true;
 }
 
-inline bool bReadPlain(QString const& text, int& value)
+template <class Text>
+bool bReadPlain(Text const& text, int& value)
 {
     if (!bPlainInteger(text, true))
         return false;
@@ -77,7 +82,8 @@ inline bool bReadPlain(QString const& text, int& value)
     return true;
 }
 
-inline bool bReadPlain(QString const& text, unsigned int& value)
+template <class Text>
+bool bReadPlain(Text const& text, unsigned int& value)
 {
     if (!bPlainInteger(text, false))
         return false;
@@ -85,8 +91,8 @@ inline bool bReadPlain(QString const& text, unsigned int& value)
     return true;
 }
 
-template <class T>
-bool bReadPlain(QString const&, T&)
+template <class Text, class T>
+bool bReadPlain(Text const&, T&)
 {
     return false;
 }
