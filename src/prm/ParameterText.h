@@ -79,12 +79,18 @@ QString Parameter<T>::indexSuffixString(int index) const
                                         .arg(record.dInTime, 0, 'g', -1)
                                         .arg(record.dInValue, 0, 'g', -1)
                                   : qstrInterpolationTypeString(record.eType);
-    // The value goes in last, so that a text value holding a marker is not filled in again.
-    return QStringLiteral("keyframes.append( %2( %1, %4, %3 ) )")
-        .arg(static_cast<double>(key.fTime), 0, 'g', -1)
-        .arg(bBezier ? QStringLiteral("BezierKey") : QStringLiteral("Key"))
-        .arg(curve)
-        .arg(ValueText<T>::qstrWritten(key.tValue));
+    // Joined piece by piece rather than by markers, so that nothing in a text value is filled in; the
+    // time prints as arg(double) would print it.
+    QString line;
+    line.reserve(64);
+    line += QLatin1String(bBezier ? "keyframes.append( BezierKey( " : "keyframes.append( Key( ");
+    line += QString::number(static_cast<double>(key.fTime), 'g', 6);
+    line += QLatin1String(", ");
+    line += ValueText<T>::qstrWritten(key.tValue);
+    line += QLatin1String(", ");
+    line += curve;
+    line += QLatin1String(" ) )");
+    return line;
 }
 
 template <class T>

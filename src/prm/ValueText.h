@@ -7,6 +7,7 @@
 #include <QString>
 #include <QTextStream>
 #include <QVariant>
+#include <type_traits>
 
 namespace Prm {
 
@@ -20,6 +21,12 @@ struct ValueText : StaticValueText<T> {
     /// The line form through a fresh string stream at default settings (six significant digits).
     static QString qstrWritten(T const& value)
     {
+        // A fresh stream prints numbers as QString::number does (six significant digits for reals);
+        // building the stream would cost more than the rest of a key line.
+        if constexpr (std::is_same<T, double>::value || std::is_same<T, float>::value)
+            return QString::number(static_cast<double>(value), 'g', 6);
+        if constexpr (std::is_same<T, int>::value || std::is_same<T, unsigned int>::value)
+            return QString::number(value);
         QString text;
         QTextStream out(&text, QIODevice::WriteOnly);
         StaticValueText<T>::vWrite(out, value);
