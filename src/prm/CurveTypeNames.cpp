@@ -31,6 +31,23 @@ QString qstrName(int value, QStringList const& names)
     return QStringLiteral("Custom %1").arg(value - names.size());
 }
 
+// Qt's comparison ignoring case, with a quick answer for the ASCII texts that files hold.
+bool bSameName(QStringRef const& text, QString const& name)
+{
+    if (text.size() != name.size())
+        return false;
+    for (int i = 0; i < text.size(); ++i) {
+        ushort const a = text.at(i).unicode();
+        ushort const b = name.at(i).unicode();
+        if (a >= 0x80)
+            return text.compare(name, Qt::CaseInsensitive) == 0;
+        auto const lower = [](ushort c) { return (c >= 'A' && c <= 'Z') ? ushort(c + ('a' - 'A')) : c; };
+        if (lower(a) != lower(b))
+            return false;
+    }
+    return true;
+}
+
 bool bValueOfName(QStringRef const& text, QStringList const& names, int& value)
 {
     // Closing parentheses and blanks around the name are not part of it; most texts have neither.
@@ -41,7 +58,7 @@ bool bValueOfName(QStringRef const& text, QStringList const& names, int& value)
         cleaned = QStringRef(&withoutParentheses).trimmed();
     }
     for (int i = 0; i < names.size(); ++i) {
-        if (cleaned.compare(names.at(i), Qt::CaseInsensitive) == 0) {
+        if (bSameName(cleaned, names.at(i))) {
             value = i;
             return true;
         }

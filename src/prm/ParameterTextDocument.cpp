@@ -84,13 +84,18 @@ int ParameterTextDocument::iRead(QTextStream& in)
     return taken;
 }
 
-bool ParameterTextDocument::bReadLine(QString const& line)
+bool ParameterTextDocument::bReadLine(QString& line)
 {
     QString const& name = set.qstrScriptName();
-    if (!name.isEmpty() && line.size() > name.size() && line.startsWith(name)
-        && line.at(name.size()) == QLatin1Char('.'))
-        return set.bStreamIn(line.mid(name.size() + 1));
-    return set.bStreamIn(line);
+    if (name.isEmpty() || line.size() <= name.size() || !line.startsWith(name)
+        || line.at(name.size()) != QLatin1Char('.'))
+        return set.bStreamIn(line);
+    // The root's name comes off in place rather than in a copy; a line not taken gets it back.
+    line.remove(0, name.size() + 1);
+    if (set.bStreamIn(line))
+        return true;
+    line.prepend(name + QLatin1Char('.'));
+    return false;
 }
 
 void ParameterTextDocument::vBindMasters() const
