@@ -7,8 +7,8 @@
 // The floors run first and leave their time per text in shared variables.
 #include "bsc/Logger.h"
 #include "prm/NumericParameter.h"
-#include "prm/ParameterSet.h"
-#include "prm/ParameterTextDocument.h"
+#include "prm/set/ParameterSet.h"
+#include "prm/text/ParameterTextDocument.h"
 
 #include <benchmark/benchmark.h>
 

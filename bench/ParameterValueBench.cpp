@@ -2,7 +2,7 @@
 // same keys. Each run reports "ratio" = parameter ns per read / baseline ns per read, both timed the same way
 // in the same process. Bezier rows also report "floor_ratio" against a fair floor: the same search plus the
 // same cubic solve and evaluation (Prm::detail::bBezierAt) over plain arrays of keys and handles.
-#include "prm/Interpolate.h"
+#include "prm/curve/Interpolate.h"
 #include "prm/NumericParameter.h"
 
 #include <benchmark/benchmark.h>

@@ -17,10 +17,10 @@ namespace {
 class GradeSettings : public Prm::ParameterSet {
 public:
     GradeSettings() : Prm::ParameterSet("Grade", nullptr),
-        Gain(true, "Gain", 1.0f, 0.0f, 4.0f, Prm::Interpolation(2), Prm::Extrapolation(1)),
-        Offset(true, "Offset", 0.0, -1.0, 1.0, Prm::Interpolation(3), Prm::Extrapolation(1)),
-        Label(false, "Label", QString("main grade"), Prm::Interpolation(1), Prm::Extrapolation(1)),
-        Bypass(true, "Bypass", false, Prm::Interpolation(1), Prm::Extrapolation(1))
+        Gain(true, "Gain", 1.0f, 0.0f, 4.0f, Prm::InterpolationLinear, Prm::ExtrapolationHold),
+        Offset(true, "Offset", 0.0, -1.0, 1.0, Prm::InterpolationBezier, Prm::ExtrapolationHold),
+        Label(false, "Label", QString("main grade"), Prm::InterpolationStep, Prm::ExtrapolationHold),
+        Bypass(true, "Bypass", false, Prm::InterpolationStep, Prm::ExtrapolationHold)
     {
         init();
     }

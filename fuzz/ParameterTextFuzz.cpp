@@ -3,9 +3,10 @@
 // reads it everywhere, rescales two curves and reads the written text again.
 #include "bsc/Logger.h"
 #include "prm/NumericParameter.h"
-#include "prm/ParameterSet.h"
-#include "prm/ParameterTextDocument.h"
-#include "prm/VirtualParameter.h"
+#include "prm/set/ParameterSet.h"
+#include "prm/text/ParameterTextDocument.h"
+#include "support/EnumerationParameters.h"
+#include "prm/basic/VirtualParameter.h"
 
 #include <QString>
 #include <cstddef>

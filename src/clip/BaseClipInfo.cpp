@@ -1,7 +1,8 @@
 #include "clip/BaseClipInfo.h"
 
-#include "prm/StreamOperators.h"
-#include "prm/VirtualParameter.h"
+#include "prm/text/StreamOperators.h"
+#include "prm/basic/VirtualParameter.h"
+#include "support/EnumerationParameters.h"
 
 #include <limits>
 

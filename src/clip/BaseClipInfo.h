@@ -1,7 +1,7 @@
 #pragma once
 
 #include "camera/FilmType.h"
-#include "prm/ParameterSet.h"
+#include "prm/set/ParameterSet.h"
 #include "support/Enumerations.h"
 
 #include <QSize>

@@ -1,6 +1,6 @@
 #pragma once
 #include "prm/NumericParameterWithoutType.h"
-#include "prm/ParamInterpolator.h"
+#include "prm/curve/ParamInterpolator.h"
 #include "prm/Parameter.h"
 #include "prm/ValueConversion.h"
 
@@ -76,7 +76,7 @@ public:
     ParamExtrapolator<T> const* customExtrapolationMethod(Extrapolation extrapolation) const override;
     /// Reads one line without a text filter (the text format).
     virtual bool bStreamIn(QString const& line);
-    bool bStreamInFromSet(QString const& line) override { return bStreamIn(line); }
+    bool bStreamInLine(QString const& line) override;
 
     /// `unsigned int` and `float` only: scales every key's (clamped) value by `factor`; a parameter
     /// without keys is left alone, and a key at a NaN time (read from a damaged text) keeps its value.
@@ -129,8 +129,21 @@ NumericParameter<T>& NumericParameter<T>::operator*=(double factor)
     return *this;
 }
 
-#define TQ_EXTERN_NUMERIC_PARAMETER(T) extern template class NumericParameter<T>;
-TQ_FOR_EACH_NUMERIC_VALUE_TYPE(TQ_EXTERN_NUMERIC_PARAMETER)
-#undef TQ_EXTERN_NUMERIC_PARAMETER
-
 } // namespace Prm
+
+/// Calls `X(T)` once per value type of `Prm::NumericParameter<T>`; NumericParameterTypes.cpp
+/// instantiates each. A value type needs QTextStream's `<<` and `>>` and a Qt meta type.
+#define TQ_FOR_EACH_NUMERIC_VALUE_TYPE(X)                                                                    \
+    X(bool)                                                                                                 \
+    X(unsigned char)                                                                                        \
+    X(int)                                                                                                  \
+    X(unsigned int)                                                                                         \
+    X(float)                                                                                                \
+    X(double)
+
+/// `TQ_EXTERN_PARAMETER` for a numeric value type: both templates.
+#define TQ_EXTERN_NUMERIC_PARAMETER(T)                                                                      \
+    TQ_EXTERN_PARAMETER(T)                                                                                  \
+    extern template class Prm::NumericParameter<T>;
+
+TQ_FOR_EACH_NUMERIC_VALUE_TYPE(TQ_EXTERN_NUMERIC_PARAMETER)

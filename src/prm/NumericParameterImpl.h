@@ -1,8 +1,15 @@
 #pragma once
-/// Definitions of Prm::NumericParameter<T>'s own operations. Included only where it is instantiated.
-#include "prm/Interpolate.h"
+/// Definitions of Prm::NumericParameter<T>: its own operations, text and `...Command` makers, and the
+/// macro that instantiates it. Included only by the .cpp files that instantiate a value type. Both
+/// makers limit the value in `double` and convert it to `T` when the edit is made.
+#include "bsc/Command.h"
 #include "prm/NumericParameter.h"
 #include "prm/ParameterImpl.h"
+#include "prm/curve/Interpolate.h"
+#include "prm/edit/MoveChangeKeyframeEdit.h"
+#include "prm/edit/ParameterValueEdits.h"
+
+#include <QTextStream>
 
 namespace Prm {
 
@@ -210,4 +217,70 @@ template <class T> Extrapolation NumericParameter<T>::CustomExtrapolationMethodF
     return static_cast<Extrapolation>(static_cast<int>(index + 3u));
 }
 
+template <class T>
+QString NumericParameter<T>::keyframeSuffixString(float time) const
+{
+    return Parameter<T>::keyframeSuffixString(time);
+}
+
+template <class T>
+QString NumericParameter<T>::valueString(float time, Cache* cache) const
+{
+    return ValueText<T>::qstrDisplay(this->value(time, cache));
+}
+
+template <class T>
+bool NumericParameter<T>::bStreamOut(QTextStream& out, QString const& prefix, bool bQualify) const
+{
+    Parameter<T>::bStreamOut(out, prefix, bQualify);
+    return true;
+}
+
+template <class T>
+bool NumericParameter<T>::bStreamInLine(QString const& line)
+{
+    return bStreamIn(line);
+}
+
+template <class T>
+bool NumericParameter<T>::bStreamIn(QString const& line)
+{
+    if (this->streamInValue(line, boost::function<QString(QString const&)>()))
+        return true;
+    // Repairs what a failed key line leaves behind: the flag cleared, signals on.
+    this->bStreamingIn = true;
+    this->blockSignals(true);
+    this->bStreamingIn = false;
+    this->blockSignals(false);
+    return false;
+}
+
+template <class T>
+Bsc::CompositeCommand& NumericParameter<T>::vSetDoubleValueCommand(double value, float time,
+                                                                   Bsc::CompositeCommand& composite)
+{
+    T const newValue = this->tLimitedDouble(value);
+    composite.push_back(new ParameterValueEdit<T>(this, newValue, time));
+    return composite;
+}
+
+template <class T>
+Bsc::CompositeCommand& NumericParameter<T>::moveKeyframeAsDoubleCommand(double value, float fromTime, float toTime,
+                                                                        Bsc::CompositeCommand& composite)
+{
+    // The one maker that reads old state now rather than at the edit's first run.
+    T const oldValue = this->value(fromTime, nullptr);
+    T const newValue = this->tLimitedDouble(value);
+    composite.push_back(new MoveChangeKeyframeEdit<T>(this, fromTime, toTime, newValue, oldValue));
+    return composite;
+}
+
 } // namespace Prm
+
+/// `TQ_INSTANTIATE_PARAMETER` for a numeric value type: both templates, all their edits and the curve
+/// methods.
+#define TQ_INSTANTIATE_NUMERIC_PARAMETER(T)                                                                 \
+    TQ_INSTANTIATE_PARAMETER(T)                                                                             \
+    template class Prm::NumericParameter<T>;                                                                \
+    template class Prm::MoveChangeKeyframeEdit<T>;                                                          \
+    TQ_INSTANTIATE_CURVE(T)

@@ -1,5 +1,5 @@
 #pragma once
-#include "prm/ParamInterpolator.h"
+#include "prm/curve/ParamInterpolator.h"
 #include "prm/ParameterWithoutType.h"
 
 namespace Prm {

@@ -1,9 +1,8 @@
 #pragma once
 #include "prm/KeyframeData.h"
 #include "prm/ParameterWithoutType.h"
-#include "prm/ParameterValueTypes.h"
-#include "support/Enumerations.h"
 
+#include <QString>
 #include <QVector>
 #include <type_traits>
 
@@ -17,8 +16,8 @@ namespace Prm {
 /// the extrapolation getters) but not writing: the own keys stay and show again once the master is gone.
 /// The read path writes nothing and allocates nothing, so concurrent readers are safe while no writer
 /// runs. Nothing throws; an index out of range or a time without a key makes an operation a no-op.
-/// The text operations live in ParameterText.h and the `...Command` makers in ParameterCommands.h; both
-/// are compiled only with the explicit instantiations.
+/// Every definition outside this class body lives in ParameterImpl.h and is compiled only where a value
+/// type is instantiated (`TQ_INSTANTIATE_PARAMETER`).
 template <class T>
 class Parameter : public virtual ParameterWithoutType {
 public:
@@ -167,8 +166,10 @@ Parameter<T>::Parameter()
     displayName = QStringLiteral("Not Set");
 }
 
-#define TQ_EXTERN_PARAMETER(T) extern template class Parameter<T>;
-TQ_FOR_EACH_VALUE_TYPE(TQ_EXTERN_PARAMETER)
-#undef TQ_EXTERN_PARAMETER
-
 } // namespace Prm
+
+/// Declares, at global scope, that `Prm::Parameter<T>` is instantiated elsewhere: in the header of the
+/// folder that owns `T`, beside the one `TQ_INSTANTIATE_PARAMETER(T)` in its .cpp file.
+#define TQ_EXTERN_PARAMETER(T) extern template class Prm::Parameter<T>;
+
+TQ_EXTERN_PARAMETER(QString)

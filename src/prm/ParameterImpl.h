@@ -1,9 +1,20 @@
 #pragma once
-/// Definitions of Prm::Parameter<T>'s own operations. Included only where the template is instantiated.
+/// Definitions of Prm::Parameter<T>: its own operations, keys, text and `...Command` makers, and the
+/// macros that instantiate it. Included only by the .cpp files that instantiate a value type.
+///
+/// Each `...Command` maker creates one edit on the heap, pushes it onto the caller's composite (which owns
+/// it from then on) and changes nothing: the parameter changes when the composite runs.
 #include "bsc/AbstractData.h"
+#include "bsc/Command.h"
+#include "bsc/Logger.h"
 #include "prm/Parameter.h"
+#include "prm/edit/ParameterEditsInstantiation.h"
+#include "prm/text/CurveTypeNames.h"
+#include "prm/text/ParameterLine.h"
+#include "prm/text/ValueText.h"
 
 #include <QCoreApplication>
+#include <QTextStream>
 #include <new>
 #include <utility>
 
@@ -290,6 +301,623 @@ int Parameter<T>::moveAndChangeKeyframe(T const& newValue, float fromTime, float
     return newIndex;
 }
 
+template <class T> T Parameter<T>::defaultValue() const { return tDefaultValue; }
+template <class T> T Parameter<T>::staticValue() const { return tStaticValue; }
+template <class T> void Parameter<T>::vSetDefault(T const& newDefault) { tDefaultValue = newDefault; }
+template <class T> T Parameter<T>::value2Display(T shown, float) const { return shown; }
+template <class T> T Parameter<T>::display2Value(T shown, float) const { return shown; }
+template <class T> bool Parameter<T>::isKeyframed() const { return bKeyframed; }
+template <class T> void Parameter<T>::vSetDefaultInterpolation(Interpolation kind) { eDefaultInterpolation = kind; }
+template <class T> std::type_info const* Parameter<T>::tRawValueType() const { return &typeid(T); }
+template <class T> bool Parameter<T>::supportsExtrapolationFromNoKeys() const { return false; }
+
+template <class T>
+Extrapolation Parameter<T>::extrapolationBefore() const
+{
+    if (ParameterWithoutType const* master = masterBase())
+        return master->extrapolationBefore();
+    return bKeyframed ? eExtrapolationBefore : ExtrapolationHold;
+}
+
+template <class T>
+Extrapolation Parameter<T>::extrapolationAfter() const
+{
+    if (ParameterWithoutType const* master = masterBase())
+        return master->extrapolationAfter();
+    return bKeyframed ? eExtrapolationAfter : ExtrapolationHold;
+}
+
+template <class T>
+Interpolation Parameter<T>::interpolation(float time) const
+{
+    if (ParameterWithoutType const* master = masterBase())
+        return master->interpolation(time);
+    if (!bKeyframed)
+        return InterpolationStep;
+    int const n = qMin(keyframes.size(), interpolationRecords.size());
+    if (n == 0)
+        return eDefaultInterpolation;
+    for (int i = 0; i < n; ++i) {
+        if (keyframes[i].fTime == time)
+            return interpolationRecords[i].eType;
+        if (keyframes[i].fTime > time)
+            return interpolationRecords[i == 0 ? 0 : i - 1].eType;
+    }
+    return interpolationRecords[n - 1].eType;
+}
+
+template <class T>
+Interpolation Parameter<T>::interpolation(unsigned int index) const
+{
+    if (!bKeyframed || index >= keyframeCount() || int(index) >= interpolationRecords.size())
+        return InterpolationStep;
+    return interpolationRecords[int(index)].eType;
+}
+
+template <class T>
+IType Parameter<T>::interpolationData(unsigned int index) const
+{
+    if (ParameterWithoutType const* master = masterBase())
+        return master->interpolationData(index);
+    IType record;
+    if (!bKeyframed) {
+        record.eType = InterpolationStep;
+        return record;
+    }
+    if (index >= static_cast<unsigned int>(keyframes.size()) || int(index) >= interpolationRecords.size()) {
+        record.eType = eDefaultInterpolation;
+        return record;
+    }
+    return interpolationRecords[int(index)];
+}
+
+template <class T>
+void Parameter<T>::vSetExtrapolationBefore(Extrapolation rule)
+{
+    if (!bKeyframed)
+        return;
+    eExtrapolationBefore = rule;
+    vRaise(ParameterChange::ExtrapolationBeforeChanged, 0);
+}
+
+template <class T>
+void Parameter<T>::vSetExtrapolationAfter(Extrapolation rule)
+{
+    if (!bKeyframed)
+        return;
+    eExtrapolationAfter = rule;
+    vRaise(ParameterChange::ExtrapolationAfterChanged, 0);
+}
+
+template <class T>
+void Parameter<T>::vSetInterpolation(Interpolation kind, float time)
+{
+    int const index = bKeyframed ? iKeyIndex(time) : -1;
+    if (index < 0 || index >= interpolationRecords.size())
+        return;
+    interpolationRecords[index].eType = kind;
+    if (index < keyframes.size() - 1)
+        interpolationRecords[index] = intitialiseInterpolation(keyframes[index], keyframes[index + 1], kind);
+    vRaise(ParameterChange::InterpolationChanged, static_cast<unsigned int>(index));
+}
+
+template <class T>
+void Parameter<T>::vSetInterpolationData(IType data, unsigned int index)
+{
+    if (!bKeyframed || index >= static_cast<unsigned int>(keyframes.size())
+        || int(index) >= interpolationRecords.size())
+        return;
+    interpolationRecords[int(index)] = data;
+    vRaise(ParameterChange::InterpolationChanged, index);
+}
+
+template <class T>
+unsigned int Parameter<T>::keyframeCount() const
+{
+    return bKeyframed ? static_cast<unsigned int>(keyframes.size()) : 0u;
+}
+
+template <class T>
+float Parameter<T>::keyframeTime(unsigned int index) const
+{
+    if (!bKeyframed || index >= static_cast<unsigned int>(keyframes.size()))
+        return 0.0f;
+    return keyframes[int(index)].fTime;
+}
+
+template <class T>
+T Parameter<T>::keyframeValue(unsigned int index) const
+{
+    if (!bKeyframed || keyframes.isEmpty())
+        return tStaticValue;
+    unsigned int const last = static_cast<unsigned int>(keyframes.size() - 1);
+    return keyframes[int(qMin(index, last))].tValue;
+}
+
+template <class T>
+bool Parameter<T>::bKeyframeAt(float time) const
+{
+    return bKeyframed && iKeyIndex(time) >= 0;
+}
+
+template <class T>
+bool Parameter<T>::bNearestKeyframeIndex(float time, unsigned int& nearest) const
+{
+    if (!bKeyframed || keyframes.isEmpty())
+        return false;
+    int const later = iNextKeyIndex(time);
+    if (later == -1) {
+        nearest = static_cast<unsigned int>(keyframes.size() - 1);
+    } else if (later == 0) {
+        nearest = 0;
+    } else {
+        float const fAfter = keyframes[later].fTime - time;
+        float const fBefore = time - keyframes[later - 1].fTime;
+        // A tie goes to the later key.
+        nearest = static_cast<unsigned int>(fAfter > fBefore ? later - 1 : later);
+    }
+    return true;
+}
+
+template <class T>
+bool Parameter<T>::bNearestKeyframeTime(float time, float& nearest) const
+{
+    unsigned int index = 0;
+    if (!bNearestKeyframeIndex(time, index))
+        return false;
+    nearest = keyframes[int(index)].fTime;
+    return true;
+}
+
+template <class T>
+bool Parameter<T>::bPreviousKeyframe(float time, float& previous) const
+{
+    if (!bKeyframed || keyframes.isEmpty())
+        return false;
+    int const n = keyframes.size();
+    for (int i = 0; i < n; ++i) {
+        if (keyframes[i].fTime >= time) {
+            if (i == 0)
+                return false;
+            previous = keyframes[i - 1].fTime;
+            return true;
+        }
+    }
+    previous = keyframes[n - 1].fTime;
+    return true;
+}
+
+template <class T>
+bool Parameter<T>::bNextKeyframe(float time, float& next) const
+{
+    if (!bKeyframed || keyframes.isEmpty())
+        return false;
+    int const n = keyframes.size();
+    for (int i = 0; i < n; ++i) {
+        if (keyframes[i].fTime == time) {
+            if (i == n - 1)
+                return false;
+            next = keyframes[i + 1].fTime;
+            return true;
+        }
+        if (keyframes[i].fTime > time) {
+            next = keyframes[i].fTime;
+            return true;
+        }
+    }
+    return false;
+}
+
+template <class T>
+void Parameter<T>::vDeleteKeyframe(float time)
+{
+    int const index = bKeyframed ? iKeyIndex(time) : -1;
+    if (index < 0)
+        return;
+    if (keyframes.size() == 1)
+        tStaticValue = keyframes[0].tValue;
+    keyframes.remove(index);
+    if (index < interpolationRecords.size())
+        interpolationRecords.remove(index);
+    vRaise(ParameterChange::KeyframeDeleted, static_cast<unsigned int>(index));
+}
+
+template <class T>
+void Parameter<T>::vDeleteAllKeyframes()
+{
+    if (!bKeyframed)
+        return;
+    keyframes.clear();
+    interpolationRecords.clear();
+    vRaise(ParameterChange::AllKeyframesDeleted, 0);
+}
+
+template <class T>
+void Parameter<T>::vReset(float time)
+{
+    if (bKeyframed && !keyframes.isEmpty()) {
+        if (bKeyframeAt(time))
+            vDeleteKeyframe(time);
+        return;
+    }
+    tStaticValue = tDefaultValue;
+    vRaise(ParameterChange::ParameterReset, 0);
+}
+
+template <class T>
+void* Parameter<T>::AbstractDataCopy(void const* source)
+{
+    return new T(*static_cast<T const*>(source));
+}
+
+template <class T>
+void Parameter<T>::AbstractDataDestroy(void* cell)
+{
+    static_cast<T*>(cell)->~T();
+#ifdef TQ_LSAN_IGNORE
+    // The cell is kept by design; tell the leak checker so.
+    __lsan_ignore_object(cell);
+#endif
+}
+
+template <class T>
+void Parameter<T>::rawValue(float time, Bsc::AbstractData& out) const
+{
+    if (ParameterWithoutType const* master = masterBase()) {
+        master->rawValue(time, out);
+        return;
+    }
+    T const current = bKeyframed ? value(time, nullptr) : staticValue();
+    out = Bsc::AbstractData(new T(current), tRawValueType(), &AbstractDataCopy, &AbstractDataDestroy);
+}
+
+template <class T>
+int Parameter<T>::vSetRawValue(Bsc::AbstractData const& raw, float time)
+{
+    if (raw.pType != tRawValueType() || !raw.pValue)
+        return -1;
+    T const& held = *static_cast<T const*>(raw.pValue);
+    if (bKeyframed)
+        return vSetValue(held, time);
+    tStaticValue = held;
+    vRaise(ParameterChange::StaticValueChanged, 0);
+    return -1;
+}
+
+template <class T>
+void Parameter<T>::vCopyKeyframeDataFrom(ParameterWithoutType const* source)
+{
+    Parameter<T> const* other = dynamic_cast<Parameter<T> const*>(source);
+    if (!other)
+        return;
+    bKeyframed = other->bKeyframed;
+    tStaticValue = other->tStaticValue;
+    eExtrapolationBefore = other->eExtrapolationBefore;
+    eExtrapolationAfter = other->eExtrapolationAfter;
+    keyframes = other->keyframes;
+    interpolationRecords = other->interpolationRecords;
+    vRaise(ParameterChange::ParameterReplaced, 0);
+}
+
+template <class T>
+bool Parameter<T>::setMasterParameter(Parameter<T>* master, QString const& name)
+{
+    if (masterParameter.data() != static_cast<QObject*>(master))
+        bFollow(master);
+    if (!name.isNull())
+        masterParameterId = name;
+    return true;
+}
+
+template <class T>
+T Parameter<T>::InterpolateKeyForwards(unsigned int index, float, Cache*) const
+{
+    return index < static_cast<unsigned int>(keyframes.size()) ? keyframes[int(index)].tValue : T();
+}
+
+template <class T>
+T Parameter<T>::ExtrapolateKey(bool bBefore, float, Cache*) const
+{
+    if (keyframes.isEmpty())
+        return tStaticValue;
+    return bBefore ? keyframes.first().tValue : keyframes.last().tValue;
+}
+
+template <class T>
+IType Parameter<T>::intitialiseInterpolation(KeyframeData<T> const&, KeyframeData<T> const&, Interpolation kind) const
+{
+    IType record;
+    record.eType = kind;
+    return record;
+}
+
+namespace TextDetail {
+
+enum class LineRead { Taken, Failed, NotMine };
+
+inline void vLogKeyFailure(char const* block, QString const& line)
+{
+    Bsc::LOG_STRING(QStringLiteral("Parameter::streamInValue(): failed to parse %1() block: '%2'")
+                        .arg(QLatin1String(block), line));
+}
+
+/// Reads a key line through the parameter's virtual setters. A failed line may already have set its key.
+template <class T>
+LineRead eReadKeyLine(Parameter<T>& parameter, QString const& line,
+                      boost::function<QString(QString const&)> const& textFilter)
+{
+    // Only the case-sensitive block word tells the two blocks apart, wherever it stands.
+    bool const bBezier = line.contains(QLatin1String("BezierKey"), Qt::CaseSensitive);
+    // The entries of parseKeyframeDeclaration, as views: no copy of each on the load path.
+    KeyframeEntries tokens;
+    vKeyframeDeclarationEntries(line, tokens);
+    if (tokens.size() < 3) {
+        vLogKeyFailure("Key", line);
+        return LineRead::Failed;
+    }
+    float const time = tokens.at(0).toFloat();
+    T value{};
+    if (textFilter || !NumberText::bReadPlain(tokens.at(1), value)) {
+        QString text = textFilter ? textFilter(tokens.at(1).toString()) : tokens.at(1).toString();
+        value = ValueText<T>::tRead(text);
+    }
+    int const index = parameter.vSetValue(value, time);
+    if (!bBezier) {
+        Interpolation interpolation = InterpolationUnset;
+        if (bInterpolationOfEntry(tokens.at(2), interpolation))
+            parameter.vSetInterpolation(interpolation, time);
+        return LineRead::Taken;
+    }
+    if (tokens.size() < 6) {
+        vLogKeyFailure("BezierKey", line);
+        return LineRead::Failed;
+    }
+    IType record;
+    record.eType = InterpolationBezier;
+    record.dOutTime = tokens.at(2).toDouble();
+    record.dOutValue = tokens.at(3).toDouble();
+    record.dInTime = tokens.at(4).toDouble();
+    record.dInValue = tokens.at(5).toString().remove(QLatin1Char(')')).toDouble();
+    // -1 (not keyframed) becomes an index out of range, which the setter ignores.
+    parameter.vSetInterpolationData(record, static_cast<unsigned int>(index));
+    return LineRead::Taken;
+}
+
+} // namespace TextDetail
+
+template <class T>
+QString Parameter<T>::indexSuffixString(int index) const
+{
+    static QString const bezierTemplate = QStringLiteral("%1, %2, %3, %4");
+    if (index < 0 || index >= keyframes.size())
+        return QString();
+    KeyframeData<T> const& key = keyframes.at(index);
+    IType const record = index < interpolationRecords.size() ? interpolationRecords.at(index) : IType();
+    bool const bBezier = record.eType == InterpolationBezier;
+    QString const curve = bBezier ? bezierTemplate.arg(record.dOutTime, 0, 'g', -1)
+                                        .arg(record.dOutValue, 0, 'g', -1)
+                                        .arg(record.dInTime, 0, 'g', -1)
+                                        .arg(record.dInValue, 0, 'g', -1)
+                                  : qstrInterpolationTypeString(record.eType);
+    // Joined piece by piece rather than by markers, so that nothing in a text value is filled in; the
+    // time prints as arg(double) would print it.
+    QString line;
+    line.reserve(64);
+    line += QLatin1String(bBezier ? "keyframes.append( BezierKey( " : "keyframes.append( Key( ");
+    line += QString::number(static_cast<double>(key.fTime), 'g', 6);
+    line += QLatin1String(", ");
+    line += ValueText<T>::qstrWritten(key.tValue);
+    line += QLatin1String(", ");
+    line += curve;
+    line += QLatin1String(" ) )");
+    return line;
+}
+
+template <class T>
+QString Parameter<T>::keyframeSuffixString(float time) const
+{
+    for (int i = 0; i < keyframes.size(); ++i) {
+        if (keyframes.at(i).fTime == time)
+            return indexSuffixString(i);
+    }
+    return QString();
+}
+
+template <class T>
+QString Parameter<T>::valueString(float time, Cache* cache) const
+{
+    return ValueText<T>::qstrDisplay(value(time, cache));
+}
+
+template <class T>
+void Parameter<T>::setValueFromString(QString const& text, float time)
+{
+    T parsed{};
+    if (ValueText<T>::bReadWord(text, parsed))
+        vSetValue(parsed, time);
+}
+
+template <class T>
+bool Parameter<T>::bStreamOut(QTextStream& out, QString const& prefix, bool bQualify) const
+{
+    QString linePrefix = prefix;
+    if (bQualify && !scriptName.isEmpty())
+        linePrefix += scriptName + QLatin1Char('.');
+    if (!bKeyframed || keyframes.isEmpty()) {
+        out << linePrefix << "value=";
+        ValueText<T>::vWrite(out, tStaticValue);
+        out << Qt::endl;
+    }
+    if (bKeyframed) {
+        for (int i = 0; i < keyframes.size(); ++i)
+            out << linePrefix << indexSuffixString(i) << Qt::endl;
+    }
+    out << linePrefix << "hidden=" << (bHidden ? '1' : '0') << Qt::endl;
+    out << linePrefix << "keyframed=" << (bKeyframed ? '1' : '0') << Qt::endl;
+    out << linePrefix << "before=" << qstrExtrapolationTypeString(eExtrapolationBefore) << Qt::endl;
+    out << linePrefix << "after=" << qstrExtrapolationTypeString(eExtrapolationAfter) << Qt::endl;
+    if (auto const* master = dynamic_cast<ParameterWithoutType const*>(masterParameter.data()))
+        out << linePrefix << "MasterParameterId=" << master->extendedName() << Qt::endl;
+    return true;
+}
+
+template <class T>
+bool Parameter<T>::streamInValue(QString const& line, boost::function<QString(QString const&)> textFilter)
+{
+    using TextDetail::LineRead;
+    bStreamingIn = true;
+    blockSignals(true);
+    LineRead result = LineRead::Taken;
+    switch (eTextField(line)) {
+    case TextField::Keyframes:
+        result = TextDetail::eReadKeyLine(*this, line, textFilter);
+        break;
+    case TextField::Value: {
+        QString text = qstrValueText(line);
+        if (textFilter)
+            text = textFilter(text);
+        tStaticValue = ValueText<T>::tRead(text);
+        break;
+    }
+    case TextField::Hidden:
+        bHidden = bFlagOfLine(line);
+        break;
+    case TextField::Keyframed:
+        bKeyframed = bFlagOfLine(line);
+        break;
+    case TextField::Before:
+        bStringToExtrapolationType(qstrFieldText(line), eExtrapolationBefore);
+        break;
+    case TextField::After:
+        bStringToExtrapolationType(qstrFieldText(line), eExtrapolationAfter);
+        break;
+    case TextField::MasterParameterId:
+        masterParameterId = qstrFieldText(line);
+        break;
+    case TextField::Unknown:
+        result = LineRead::NotMine;
+        break;
+    }
+    // A failed key line leaves the flag set; NumericParameter::bStreamIn clears it.
+    if (result != LineRead::Failed)
+        bStreamingIn = false;
+    blockSignals(false);
+    return result == LineRead::Taken;
+}
+
+template <class T>
+QVariant Parameter<T>::exportValueAt(float time) const
+{
+    return ValueText<T>::variant(value(time, nullptr));
+}
+
+template <class T>
+void Parameter<T>::importValueAt(float time, QVariant const& variant)
+{
+    T converted{};
+    if (ValueText<T>::bFromVariant(variant, converted))
+        vSetValue(converted, time);
+}
+
+template <class T>
+void Parameter<T>::setFromString(QString& target, QString& text)
+{
+    target = ValueText<QString>::tRead(text);
+}
+
+template <class T>
+void Parameter<T>::writeValue(QTextStream& out, QString const& text) const
+{
+    ValueText<QString>::vWrite(out, text);
+}
+
+template <class T>
+Bsc::CompositeCommand& Parameter<T>::vSetValueCommand(T const& value, float time, Bsc::CompositeCommand& composite)
+{
+    // Unlimited here: a numeric parameter limits the value when the edit runs vSetValue.
+    composite.push_back(new ParameterValueEdit<T>(this, value, time));
+    return composite;
+}
+
+template <class T>
+Bsc::CompositeCommand& Parameter<T>::vSetDefaultValueCommand(T const& value, Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterDefaultValueEdit<T>(this, value));
+    return composite;
+}
+
+template <class T>
+Bsc::CompositeCommand& Parameter<T>::vSetInterpolationCommand(Interpolation interpolation, float time,
+                                                              Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterInterpolationEdit<T>(this, interpolation, time));
+    return composite;
+}
+
+template <class T>
+Bsc::CompositeCommand& Parameter<T>::vSetInterpolationDataCommand(IType data, unsigned int index,
+                                                                  Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterInterpolationDataEdit<T>(this, data, index));
+    return composite;
+}
+
+template <class T>
+Bsc::CompositeCommand& Parameter<T>::vSetExtrapolationBeforeCommand(Extrapolation extrapolation,
+                                                                    Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterExtrapolationBeforeEdit<T>(this, extrapolation));
+    return composite;
+}
+
+template <class T>
+Bsc::CompositeCommand& Parameter<T>::vSetExtrapolationAfterCommand(Extrapolation extrapolation,
+                                                                   Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterExtrapolationAfterEdit<T>(this, extrapolation));
+    return composite;
+}
+
+template <class T>
+Bsc::CompositeCommand& Parameter<T>::vAddKeyframeCommand(float time, Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterAddKeyEdit<T>(this, time));
+    return composite;
+}
+
+template <class T>
+void Parameter<T>::createKeyframeDeletion(float time, Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterDeleteKeyEdit<T>(this, time));
+}
+
+template <class T>
+Bsc::CompositeCommand& Parameter<T>::vDeleteAllKeyframesCommand(Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterDeleteAllKeysEdit<T>(this));
+    return composite;
+}
+
+template <class T>
+Bsc::CompositeCommand& Parameter<T>::vResetCommand(float time, Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterResetEdit<T>(this, time));
+    return composite;
+}
+
+template <class T>
+Bsc::CompositeCommand& Parameter<T>::bAddConstrainedParameterCommand(ParameterWithoutType* follower,
+                                                                     Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterAddConstrainedParameterEdit<T>(this, follower));
+    return composite;
+}
+
 } // namespace Prm
 
-#include "prm/ParameterImplKeys.h"
+/// Instantiates `Prm::Parameter<T>` and the edits its `...Command` makers create. Used at global scope,
+/// once per value type, in a .cpp file of the folder that owns `T`, whose header carries the matching
+/// `TQ_EXTERN_PARAMETER(T)`. `T` needs QTextStream's `<<` and `>>` and a Qt meta type, visible there.
+#define TQ_INSTANTIATE_PARAMETER(T)                                                                         \
+    template class Prm::Parameter<T>;                                                                       \
+    TQ_INSTANTIATE_PARAMETER_EDITS(T)

@@ -1,7 +1,9 @@
 #include "prm/ParameterWithoutType.h"
 
-#include "prm/ParameterLineRouter.h"
-#include "prm/ParameterSet.h"
+#include "bsc/Command.h"
+#include "prm/edit/ConstraintEdits.h"
+#include "prm/text/ParameterLineRouter.h"
+#include "prm/set/ParameterSet.h"
 
 namespace Prm {
 
@@ -129,11 +131,6 @@ void ParameterWithoutType::vAssignScriptName(QString const& name)
     ParameterLineRouter::vNamesChanged();
 }
 
-bool ParameterWithoutType::bStreamInFromSet(QString const& line)
-{
-    return streamInValue(line, boost::function<QString(QString const&)>());
-}
-
 void ParameterWithoutType::vRaise(ParameterChange::ParameterChanges kind, unsigned int index)
 {
     // Blocked signals reach no one: a read with signals blocked need not build the change.
@@ -141,6 +138,24 @@ void ParameterWithoutType::vRaise(ParameterChange::ParameterChanges kind, unsign
         return;
     ParameterChange change(kind, this, index);
     emit changed(change);
+}
+
+bool ParameterWithoutType::bUnconstrainCommand(Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterUnconstrainEdit(this));
+    return true;
+}
+
+bool ParameterWithoutType::bRemoveConstrainedParameterCommand(ParameterWithoutType* follower,
+                                                              Bsc::CompositeCommand& composite)
+{
+    composite.push_back(new ParameterRemoveConstrainedParameterEdit(this, follower));
+    return follower != nullptr;
+}
+
+bool ParameterWithoutType::bStreamInLine(QString const& line)
+{
+    return streamInValue(line, boost::function<QString(QString const&)>());
 }
 
 } // namespace Prm

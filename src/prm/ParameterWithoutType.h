@@ -1,6 +1,6 @@
 #pragma once
-#include "prm/Cache.h"
-#include "prm/Interpolation.h"
+#include "prm/curve/Cache.h"
+#include "prm/curve/Interpolation.h"
 #include "prm/ParameterChange.h"
 
 #include <QObject>
@@ -68,9 +68,10 @@ public:
     virtual void setValueFromString(QString const& text, float time) = 0;
     virtual bool bStreamOut(QTextStream& out, QString const& prefix, bool bQualify) const = 0;
     virtual bool streamInValue(QString const& line, boost::function<QString(QString const&)> textFilter) = 0;
-    /// Reads one line handed on by the owning set: `streamInValue` without a filter here; a numeric
-    /// parameter reads through its own `bStreamIn`, which also repairs a failed key line.
-    virtual bool bStreamInFromSet(QString const& line);
+    /// Reads one line relative to this parameter, as its set hands it on; true when taken. Here the line
+    /// goes to `streamInValue` without a text filter; a numeric parameter reads it through its
+    /// `bStreamIn`, which also repairs what a failed key line leaves behind.
+    virtual bool bStreamInLine(QString const& line);
     virtual void vSetExtrapolationBefore(Extrapolation extrapolation) = 0;
     virtual void vSetExtrapolationAfter(Extrapolation extrapolation) = 0;
     virtual void vSetInterpolation(Interpolation interpolation, float time) = 0;

@@ -1,6 +1,6 @@
 #include "camera/FilmTypeFactory.h"
 #include "clip/BaseClipInfo.h"
-#include "prm/BasicParameter.h"
+#include "prm/basic/BasicParameter.h"
 
 #include <gtest/gtest.h>
 

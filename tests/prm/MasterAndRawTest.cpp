@@ -1,8 +1,8 @@
 #include "Fixtures.h"
 #include "bsc/AbstractData.h"
-#include "prm/BasicParameter.h"
+#include "prm/basic/BasicParameter.h"
 #include "prm/NumericParameter.h"
-#include "prm/ParameterSet.h"
+#include "prm/set/ParameterSet.h"
 
 #include <memory>
 

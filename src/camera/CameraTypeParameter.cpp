@@ -1,0 +1,5 @@
+#include "camera/CameraTypeParameter.h"
+
+#include "prm/ParameterImpl.h"
+
+TQ_INSTANTIATE_PARAMETER(Gan_CameraType)

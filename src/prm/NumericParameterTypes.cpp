@@ -1,0 +1,3 @@
+#include "prm/NumericParameterImpl.h"
+
+TQ_FOR_EACH_NUMERIC_VALUE_TYPE(TQ_INSTANTIATE_NUMERIC_PARAMETER)

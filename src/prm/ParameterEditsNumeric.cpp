@@ -1,3 +1,0 @@
-#include "prm/ParameterEditsInstantiation.h"
-
-TQ_FOR_EACH_NUMERIC_VALUE_TYPE(TQ_INSTANTIATE_NUMERIC_PARAMETER_EDITS)

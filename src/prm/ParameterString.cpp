@@ -1,7 +1,0 @@
-#include "prm/ParameterInstantiation.h"
-
-namespace Prm {
-
-template class Parameter<QString>;
-
-} // namespace Prm

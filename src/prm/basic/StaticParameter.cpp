@@ -1,0 +1,3 @@
+#include "prm/basic/VirtualParameter.h"
+
+TQ_FOR_EACH_STATIC_PARAMETER_TYPE(TQ_INSTANTIATE_STATIC_PARAMETER)

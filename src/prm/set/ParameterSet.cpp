@@ -1,0 +1,165 @@
+#include "prm/set/ParameterSet.h"
+
+#include "prm/basic/BasicParameter.h"
+#include "prm/ParameterWithoutType.h"
+
+#include <QTextStream>
+
+namespace Prm {
+
+ParameterSet::ParameterSet(QString const& name, ParameterTree*)
+    : bBasicParametersOwned(false), displayName(name), scriptName(name)
+{
+    ParameterLineRouter::vNamesChanged();
+}
+
+ParameterSet::ParameterSet(ParameterSet const& other)
+    : bBasicParametersOwned(false), displayName(other.displayName), scriptName(other.scriptName)
+{
+    ParameterLineRouter::vNamesChanged();
+}
+
+ParameterSet::~ParameterSet()
+{
+    ParameterLineRouter::vNamesChanged();
+    // A parameter that outlives its set must not keep a dangling owner.
+    for (QPointer<ParameterWithoutType> const& parameter : parameters) {
+        if (parameter && parameter->pOwner == this)
+            parameter->pOwner = nullptr;
+    }
+    if (bBasicParametersOwned)
+        qDeleteAll(basicParameters);
+}
+
+void ParameterSet::setDisplayName(QString const& name)
+{
+    displayName = name;
+}
+
+void ParameterSet::setDisplayName(QString const& newDisplayName, QString const& newScriptName)
+{
+    displayName = newDisplayName;
+    scriptName = newScriptName;
+    ParameterLineRouter::vNamesChanged();
+}
+
+void ParameterSet::setScriptName(QString const& name)
+{
+    scriptName = name;
+    ParameterLineRouter::vNamesChanged();
+}
+
+bool ParameterSet::bStreamOut(QTextStream& out, QString const& prefix, bool bQualify)
+{
+    QString setPrefix = prefix;
+    if (bQualify && !scriptName.isEmpty())
+        setPrefix += scriptName + QLatin1Char('.');
+    for (ParameterWithoutType* parameter : parameterList())
+        parameter->bStreamOut(out, setPrefix, true);
+    for (BasicParameter* parameter : basicParameters) {
+        if (parameter)
+            parameter->bStreamOut(out, setPrefix, true);
+    }
+    for (ParameterSet* child : childSets) {
+        if (child)
+            child->bStreamOut(out, setPrefix, true);
+    }
+    return true;
+}
+
+bool ParameterSet::bStreamIn(QString const& line)
+{
+    int const dot = line.indexOf(QLatin1Char('.'));
+    if (dot <= 0)
+        return false;
+    // The name only looks things up, so it may borrow the line's characters.
+    QString const name = QString::fromRawData(line.constData(), dot);
+    QString const rest = line.mid(dot + 1);
+    auto const nameOf = [this](int list, int position) -> QString const* {
+        if (list == ParameterLineRouter::Parameters) {
+            ParameterWithoutType const* parameter = parameters.at(position).data();
+            return parameter ? &parameter->qstrScriptName() : nullptr;
+        }
+        if (list == ParameterLineRouter::BasicParameters) {
+            BasicParameter const* parameter = basicParameters.at(position);
+            return parameter ? &parameter->scriptName() : nullptr;
+        }
+        ParameterSet const* child = childSets.at(position);
+        return child ? &child->scriptName : nullptr;
+    };
+    LineTargets const& targets = lineRouter.targetsOf(
+        name, {{parameters.size(), basicParameters.size(), childSets.size()}}, nameOf);
+    int const parameterCount = targets.parameters.size();
+    int const count = parameterCount + targets.basicParameters.size();
+    if (count > 0) {
+        int const chosen = count > 1 ? lineRouter.iChoose(name, count, eTextField(rest)) : 0;
+        if (chosen < parameterCount ? parameters.at(targets.parameters.at(chosen))->bStreamInLine(rest)
+                                    : basicParameters.at(targets.basicParameters.at(chosen - parameterCount))
+                                          ->bStreamIn(rest))
+            return true;
+    }
+    // A child may take the line only after the index above is done with: copy its positions.
+    QVector<int> const children = targets.childSets;
+    for (int position : children) {
+        if (childSets.at(position)->bStreamIn(rest))
+            return true;
+    }
+    return false;
+}
+
+void ParameterSet::assignName(QString const& name)
+{
+    displayName = name;
+    scriptName = name;
+    ParameterLineRouter::vNamesChanged();
+}
+
+void ParameterSet::addParameter(ParameterWithoutType* parameter)
+{
+    if (!parameter)
+        return;
+    parameter->pOwner = this;
+    parameters.append(QPointer<ParameterWithoutType>(parameter));
+}
+
+void ParameterSet::forEachParameter(boost::function<void(ParameterWithoutType*)> function, bool bRecursive) const
+{
+    for (ParameterWithoutType* parameter : parameterList())
+        function(parameter);
+    if (!bRecursive)
+        return;
+    for (ParameterSet const* child : childSets) {
+        if (child)
+            child->forEachParameter(function, true);
+    }
+}
+
+ParameterSet& ParameterSet::operator=(ParameterSet const& other)
+{
+    displayName = other.displayName;
+    scriptName = other.scriptName;
+    ParameterLineRouter::vNamesChanged();
+    return *this;
+}
+
+QVector<ParameterWithoutType*> ParameterSet::parameterList() const
+{
+    QVector<ParameterWithoutType*> live;
+    live.reserve(parameters.size());
+    for (QPointer<ParameterWithoutType> const& parameter : parameters) {
+        if (parameter)
+            live.append(parameter.data());
+    }
+    return live;
+}
+
+ParameterWithoutType* ParameterSet::findParameter(QString const& name) const
+{
+    for (QPointer<ParameterWithoutType> const& parameter : parameters) {
+        if (parameter && parameter->qstrScriptName() == name)
+            return parameter.data();
+    }
+    return nullptr;
+}
+
+} // namespace Prm

@@ -1,0 +1,197 @@
+#include "prm/text/ParameterLine.h"
+
+namespace Prm {
+
+namespace {
+
+struct Word {
+    QLatin1String text;
+    TextField field;
+};
+
+Word const words[] = {
+    {QLatin1String("keyframes"), TextField::Keyframes}, {QLatin1String("value"), TextField::Value},
+    {QLatin1String("hidden"), TextField::Hidden},       {QLatin1String("keyframed"), TextField::Keyframed},
+    {QLatin1String("before"), TextField::Before},       {QLatin1String("after"), TextField::After},
+    {QLatin1String("MasterParameterId"), TextField::MasterParameterId},
+};
+
+ushort uAsciiLower(ushort c)
+{
+    return (c >= 'A' && c <= 'Z') ? ushort(c + ('a' - 'A')) : c;
+}
+
+// 1 when `line` starts with `word` in any case, 0 when not, -1 when a non-ASCII character decides (it may
+// fold onto an ASCII letter, which Qt's comparison knows about).
+int iAsciiPrefix(QString const& line, QLatin1String word)
+{
+    if (line.size() < word.size())
+        return 0;
+    for (int i = 0; i < word.size(); ++i) {
+        ushort const c = line.at(i).unicode();
+        if (c >= 0x80)
+            return -1;
+        if (uAsciiLower(c) != uAsciiLower(ushort(word.at(i).unicode())))
+            return 0;
+    }
+    return 1;
+}
+
+QLatin1Char const quote('"');
+
+// Index just behind the opening parenthesis of the inner call, or -1 when the line has none in front of
+// its first comma.
+int iArgumentStart(QString const& line)
+{
+    bool bQuoted = false;
+    int start = -1;
+    for (int i = 0; i < line.size(); ++i) {
+        QChar const c = line.at(i);
+        if (c == quote)
+            bQuoted = !bQuoted;
+        else if (!bQuoted && c == QLatin1Char(','))
+            break;
+        else if (!bQuoted && c == QLatin1Char('('))
+            start = i + 1;
+    }
+    return start;
+}
+
+// End of the entry that starts at `from`: the comma behind it, or (with `bLast` set) the parenthesis that
+// closes the call or the end of the line. Each entry starts outside quotes and parentheses.
+int iEntryEnd(QString const& line, int from, bool& bLast)
+{
+    bool bQuoted = false;
+    int depth = 0;
+    bLast = true;
+    for (int i = from; i < line.size(); ++i) {
+        QChar const c = line.at(i);
+        if (c == quote) {
+            bQuoted = !bQuoted;
+        } else if (bQuoted) {
+            continue;
+        } else if (c == QLatin1Char('(')) {
+            ++depth;
+        } else if (c == QLatin1Char(')')) {
+            if (depth == 0)
+                return i;
+            --depth;
+        } else if (depth == 0 && c == QLatin1Char(',')) {
+            bLast = false;
+            return i;
+        }
+    }
+    return line.size();
+}
+
+QStringRef entryRef(QString const& line, int from, int to)
+{
+    return line.midRef(from, to - from).trimmed();
+}
+
+// Appends the entries from `from` to the end of the call; an empty last entry counts only behind others.
+void vAppendEntries(QString const& line, int from, KeyframeEntries& entries)
+{
+    for (int entryStart = from;;) {
+        bool bLast = false;
+        int const end = iEntryEnd(line, entryStart, bLast);
+        QStringRef const entry = entryRef(line, entryStart, end);
+        if (!bLast) {
+            entries.append(entry);
+            entryStart = end + 1;
+        } else {
+            if (!entry.isEmpty() || !entries.isEmpty())
+                entries.append(entry);
+            return;
+        }
+    }
+}
+
+int iSkipBlanks(QString const& line, int from)
+{
+    while (from < line.size() && line.at(from).isSpace())
+        ++from;
+    return from;
+}
+
+// A text value is written between double quotes with nothing escaped, and nothing behind it holds a
+// quote. When the quotes inside it split the value (an odd number of them, or a comma or parenthesis
+// between two of them), the value really runs from its opening quote to the last quote of the line. The
+// entries are taken that way when the rest still gives at least an interpolation; a line whose quotes
+// pair up around the value as written is split as before.
+void vJoinQuotedValue(QString const& line, int start, KeyframeEntries& entries)
+{
+    if (entries.size() < 2 || !entries.at(1).startsWith(quote))
+        return;
+    bool bLast = false;
+    int const comma = iEntryEnd(line, start, bLast);
+    int const open = iSkipBlanks(line, comma + 1);
+    int const close = line.lastIndexOf(quote);
+    if (bLast || close <= open)
+        return;
+    int const next = iSkipBlanks(line, close + 1);
+    if (next >= line.size() || line.at(next) != QLatin1Char(','))
+        return;
+    KeyframeEntries joined;
+    joined.append(entries.at(0));
+    joined.append(line.midRef(open, close - open + 1));
+    vAppendEntries(line, next + 1, joined);
+    if (joined.size() >= 3)
+        entries = joined;
+}
+
+} // namespace
+
+TextField eTextField(QString const& line)
+{
+    for (Word const& word : words) {
+        int const match = iAsciiPrefix(line, word.text);
+        if (match == 1 || (match < 0 && line.startsWith(word.text, Qt::CaseInsensitive)))
+            return word.field;
+    }
+    return TextField::Unknown;
+}
+
+QString qstrFieldText(QString const& line)
+{
+    // Same text as section('=', 1, 1), without the list that section builds.
+    int const first = line.indexOf(QLatin1Char('='));
+    if (first < 0)
+        return QString();
+    int const second = line.indexOf(QLatin1Char('='), first + 1);
+    return line.mid(first + 1, second < 0 ? -1 : second - first - 1);
+}
+
+QString qstrValueText(QString const& line)
+{
+    int const first = line.indexOf(QLatin1Char('='));
+    return first < 0 ? QString() : line.mid(first + 1);
+}
+
+bool bFlagOfLine(QString const& line)
+{
+    return qstrFieldText(line).toInt(nullptr, 10) != 0;
+}
+
+void vKeyframeDeclarationEntries(QString const& line, KeyframeEntries& entries)
+{
+    entries.clear();
+    int const start = iArgumentStart(line);
+    if (start < 0)
+        return;
+    vAppendEntries(line, start, entries);
+    vJoinQuotedValue(line, start, entries);
+}
+
+QStringList parseKeyframeDeclaration(QString line)
+{
+    KeyframeEntries entries;
+    vKeyframeDeclarationEntries(line, entries);
+    QStringList list;
+    list.reserve(entries.size());
+    for (QStringRef const& entry : entries)
+        list << entry.toString();
+    return list;
+}
+
+} // namespace Prm

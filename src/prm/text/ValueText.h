@@ -1,0 +1,209 @@
+#pragma once
+#include "prm/text/StreamOperators.h"
+
+#include <QMetaType>
+#include <QString>
+#include <QTextStream>
+#include <QVariant>
+#include <type_traits>
+
+namespace Prm {
+
+namespace NumberText {
+
+/// Whether `text` as a whole is a plain decimal number: an optional minus, digits, optionally a point and
+/// digits, optionally `e` or `E`, a sign and one or two digits.
+template <class Text>
+bool bPlainReal(Text const& text)
+{
+    int const n = text.size();
+    int i = (n > 0 && text.at(0) == QLatin1Char('-')) ? 1 : 0;
+    auto const digits = [&text, n, &i] {
+        int const start = i;
+        while (i < n && text.at(i) >= QLatin1Char('0') && text.at(i) <= QLatin1Char('9'))
+            ++i;
+        return i - start;
+    };
+    if (n > 40 || digits() == 0)
+        return false;
+    if (i < n && text.at(i) == QLatin1Char('.') && (++i, digits() == 0))
+        return false;
+    if (i < n && (text.at(i) == QLatin1Char('e') || text.at(i) == QLatin1Char('E'))) {
+        ++i;
+        if (i < n && (text.at(i) == QLatin1Char('+') || text.at(i) == QLatin1Char('-')))
+            ++i;
+        int const exponentDigits = digits();
+        if (exponentDigits == 0 || exponentDigits > 2)
+            return false;
+    }
+    return i == n;
+}
+
+/// A decimal integer without a leading zero (the stream would read that as octal), of at most nine
+/// digits, with a minus only when `bSigned`.
+template <class Text>
+bool bPlainInteger(Text const& text, bool bSigned)
+{
+    int const start = (bSigned && text.startsWith(QChar(QLatin1Char('-')))) ? 1 : 0;
+    int const digitCount = text.size() - start;
+    if (digitCount < 1 || digitCount > 9 || (text.at(start) == QLatin1Char('0') && digitCount > 1))
+        return false;
+    for (int i = start; i < text.size(); ++i) {
+        if (text.at(i) < QLatin1Char('0') || text.at(i) > QLatin1Char('9'))
+            return false;
+    }
+    return true;
+}
+
+/// Reads `text` (a QString or a QStringRef) without building a stream when it is a number whose every reading agrees: the stream's
+/// readers and QString's conversions both round correctly in the C locale. False, `value` untouched, for
+/// any other text, which the caller reads through a stream as before.
+template <class Text>
+bool bReadPlain(Text const& text, double& value)
+{
+    if (!bPlainReal(text))
+        return false;
+    value = text.toDouble();
+    return true;
+}
+
+/// As the stream: the double, narrowed; only within the float range.
+template <class Text>
+bool bReadPlain(Text const& text, float& value)
+{
+    double wide = 0.0;
+    if (!bReadPlain(text, wide) || wide > 3.4028234663852886e38 || wide < -3.4028234663852886e38)
+        return false;
+    value = static_cast<float>(wide);
+    return true;
+}
+
+template <class Text>
+bool bReadPlain(Text const& text, int& value)
+{
+    if (!bPlainInteger(text, true))
+        return false;
+    value = text.toInt();
+    return true;
+}
+
+template <class Text>
+bool bReadPlain(Text const& text, unsigned int& value)
+{
+    if (!bPlainInteger(text, false))
+        return false;
+    value = text.toUInt();
+    return true;
+}
+
+template <class Text, class T>
+bool bReadPlain(Text const&, T&)
+{
+    return false;
+}
+
+} // namespace NumberText
+
+/// How one value of a static parameter prints and parses.
+///
+/// Numbers use QTextStream's own operators; `bool`, `unsigned char` and the enumerations use the free
+/// stream operators declared beside their types, which must be visible where this is instantiated.
+template <class T>
+struct StaticValueText {
+    static void vWrite(QTextStream& out, T const& value) { out << value; }
+
+    /// Reads one value from `text` through a read-write stream on it. Unparsable text gives what the
+    /// reader leaves, starting from the zero value.
+    static T tRead(QString& text)
+    {
+        T value{};
+        // Building a stream costs more than the rest of a line's reading: plain numbers skip it.
+        if (NumberText::bReadPlain(text, value))
+            return value;
+        QTextStream in(&text, QIODevice::ReadWrite);
+        in >> value;
+        return value;
+    }
+};
+
+/// Text is written between double quotes with nothing escaped, and read back as it stands, losing one
+/// pair of enclosing quotes when it has both.
+template <>
+struct StaticValueText<QString> {
+    static void vWrite(QTextStream& out, QString const& value) { out << '"' << value << '"'; }
+
+    static QString tRead(QString& text)
+    {
+        QLatin1Char const quote('"');
+        // A lone quote both starts and ends the text: it reads as empty.
+        if (text.startsWith(quote) && text.endsWith(quote))
+            return text.size() < 2 ? QString() : text.mid(1, text.size() - 2);
+        return text;
+    }
+};
+
+/// How one value of a keyframed parameter prints and parses, beyond the line form shared with static
+/// parameters (`vWrite`, `tRead`).
+///
+/// Stateless; every function builds its own stream, except `vWrite`, which writes to the caller's stream
+/// with that stream's settings.
+template <class T>
+struct ValueText : StaticValueText<T> {
+    /// The line form through a fresh string stream at default settings (six significant digits).
+    static QString qstrWritten(T const& value)
+    {
+        // A fresh stream prints numbers as QString::number does (six significant digits for reals);
+        // building the stream would cost more than the rest of a key line.
+        if constexpr (std::is_same<T, double>::value || std::is_same<T, float>::value)
+            return QString::number(static_cast<double>(value), 'g', 6);
+        if constexpr (std::is_same<T, int>::value || std::is_same<T, unsigned int>::value)
+            return QString::number(value);
+        QString text;
+        QTextStream out(&text, QIODevice::WriteOnly);
+        StaticValueText<T>::vWrite(out, value);
+        out.flush();
+        return text;
+    }
+
+    /// What `valueString` shows; for `QString` the text without quotes.
+    static QString qstrDisplay(T const& value) { return qstrWritten(value); }
+
+    /// Reads one value through a read-only stream on a copy of `text`; true only when the stream's status
+    /// stays Ok. `value` is written either way.
+    static bool bReadWord(QString text, T& value)
+    {
+        QTextStream in(&text, QIODevice::ReadOnly);
+        in >> value;
+        return in.status() == QTextStream::Ok;
+    }
+
+    /// The Qt type id that carries this value type in a `QVariant`; a value type that the engine does not
+    /// own registers its own, visible where it is instantiated.
+    static int iMetaType() { return qMetaTypeId<T>(); }
+
+    static QVariant variant(T const& value) { return QVariant(iMetaType(), &value); }
+
+    /// False, leaving `value` alone, when `variant` cannot convert to this type. Otherwise the held value,
+    /// or after Qt's conversion, and the zero value when that conversion fails.
+    static bool bFromVariant(QVariant const& variant, T& value)
+    {
+        int const type = iMetaType();
+        if (!variant.canConvert(type))
+            return false;
+        if (variant.userType() == type) {
+            value = *static_cast<T const*>(variant.constData());
+            return true;
+        }
+        QVariant converted(variant);
+        value = converted.convert(type) ? *static_cast<T const*>(converted.constData()) : T();
+        return true;
+    }
+};
+
+template <>
+inline QString ValueText<QString>::qstrDisplay(QString const& value)
+{
+    return value;
+}
+
+} // namespace Prm
