@@ -1,6 +1,7 @@
 #pragma once
 /// All of the vision primitives.
 #include "gandalf/BSpline.h"
+#include "gandalf/Camera.h"
 #include "gandalf/CameraType.h"
 #include "gandalf/Common.h"
 #include "gandalf/Error.h"

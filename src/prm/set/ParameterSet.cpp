@@ -75,6 +75,22 @@ bool ParameterSet::bStreamIn(QString const& line)
     // The name only looks things up, so it may borrow the line's characters.
     QString const name = QString::fromRawData(line.constData(), dot);
     QString const rest = line.mid(dot + 1);
+    LineTargets const& targets = targetsOf(name);
+    int const parameterCount = targets.parameters.size();
+    int const count = parameterCount + targets.basicParameters.size();
+    if (count > 0) {
+        int const chosen = count > 1 ? lineRouter.iChoose(name, count, eTextField(rest)) : 0;
+        if (chosen < parameterCount ? parameters.at(targets.parameters.at(chosen))->bStreamInLine(rest)
+                                    : basicParameters.at(targets.basicParameters.at(chosen - parameterCount))
+                                          ->bStreamIn(rest))
+            return true;
+    }
+    // A child may take the line only after the index above is done with: copy its positions.
+    return bStreamInChild(name, rest, QVector<int>(targets.childSets));
+}
+
+LineTargets const& ParameterSet::targetsOf(QString const& name)
+{
     auto const nameOf = [this](int list, int position) -> QString const* {
         if (list == ParameterLineRouter::Parameters) {
             ParameterWithoutType const* parameter = parameters.at(position).data();
@@ -87,24 +103,39 @@ bool ParameterSet::bStreamIn(QString const& line)
         ParameterSet const* child = childSets.at(position);
         return child ? &child->scriptName : nullptr;
     };
-    LineTargets const& targets = lineRouter.targetsOf(
-        name, {{parameters.size(), basicParameters.size(), childSets.size()}}, nameOf);
-    int const parameterCount = targets.parameters.size();
-    int const count = parameterCount + targets.basicParameters.size();
-    if (count > 0) {
-        int const chosen = count > 1 ? lineRouter.iChoose(name, count, eTextField(rest)) : 0;
-        if (chosen < parameterCount ? parameters.at(targets.parameters.at(chosen))->bStreamInLine(rest)
-                                    : basicParameters.at(targets.basicParameters.at(chosen - parameterCount))
-                                          ->bStreamIn(rest))
+    return lineRouter.targetsOf(name, {{parameters.size(), basicParameters.size(), childSets.size()}}, nameOf);
+}
+
+bool ParameterSet::bStreamInChild(QString const& name, QString const& rest, QVector<int> const& children)
+{
+    ParameterSet* chosen = nullptr;
+    if (children.size() > 1) {
+        // Children that share a name (the two cameras of a warp) each get back the block they wrote.
+        int const dot = rest.indexOf(QLatin1Char('.'));
+        TextField const field = dot > 0 ? eTextField(rest.mid(dot + 1)) : TextField::Unknown;
+        int const position = childSets.at(children.first())->iTextPosition(rest.left(dot));
+        chosen = childSets.at(children.at(lineRouter.iChooseSet(name, children.size(), position, field)));
+        if (chosen->bStreamIn(rest))
             return true;
     }
-    // A child may take the line only after the index above is done with: copy its positions.
-    QVector<int> const children = targets.childSets;
     for (int position : children) {
-        if (childSets.at(position)->bStreamIn(rest))
+        ParameterSet* child = childSets.at(position);
+        if (child != chosen && child->bStreamIn(rest))
             return true;
     }
     return false;
+}
+
+int ParameterSet::iTextPosition(QString const& name)
+{
+    LineTargets const& targets = targetsOf(name);
+    if (!targets.parameters.isEmpty())
+        return targets.parameters.first();
+    if (!targets.basicParameters.isEmpty())
+        return parameters.size() + targets.basicParameters.first();
+    if (!targets.childSets.isEmpty())
+        return parameters.size() + basicParameters.size() + targets.childSets.first();
+    return -1;
 }
 
 void ParameterSet::assignName(QString const& name)

@@ -63,6 +63,14 @@ protected:
     bool bBasicParametersOwned;
 
 private:
+    /// Hands a line to the child sets at `children`, all named `name`; among several, first to the one
+    /// whose block the line continues.
+    bool bStreamInChild(QString const& name, QString const& rest, QVector<int> const& children);
+    /// Where the lines of `name` may go, from the router's name index.
+    LineTargets const& targetsOf(QString const& name);
+    /// Where a parameter, basic parameter or child named `name` stands in this set's text, -1 for none.
+    int iTextPosition(QString const& name);
+
     QString displayName;
     QString scriptName;
     QVector<QPointer<ParameterWithoutType>> parameters;

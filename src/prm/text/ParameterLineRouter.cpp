@@ -25,21 +25,40 @@ int ParameterLineRouter::iChoose(QString const& name, int candidateCount, TextFi
 {
     if (candidateCount <= 1)
         return 0;
+    return iAdvance(cursorOf(cursors, name), candidateCount, 0, field);
+}
+
+int ParameterLineRouter::iChooseSet(QString const& name, int candidateCount, int position, TextField field)
+{
+    if (candidateCount <= 1)
+        return 0;
+    return iAdvance(cursorOf(setCursors, name), candidateCount, position, field);
+}
+
+ParameterLineRouter::Cursor& ParameterLineRouter::cursorOf(QHash<QString, Cursor>& cursors, QString const& name)
+{
     auto found = cursors.find(name);
     // The key is kept: a deep copy, as `name` may borrow a caller's characters.
     if (found == cursors.end())
         found = cursors.insert(QString(name.constData(), name.size()), Cursor());
-    Cursor& cursor = *found;
+    return *found;
+}
+
+int ParameterLineRouter::iAdvance(Cursor& cursor, int candidateCount, int position, TextField field)
+{
     if (cursor.iCandidate >= candidateCount)
         cursor = Cursor();
-    if (field == TextField::Unknown)
+    if (position < 0 || (position == cursor.iLastPosition && field == TextField::Unknown))
         return cursor.iCandidate;
-    bool const bFits = static_cast<int>(field) > static_cast<int>(cursor.eLast)
-                       || (field == TextField::Keyframes && cursor.eLast == TextField::Keyframes);
+    bool const bFits = position > cursor.iLastPosition
+                       || (position == cursor.iLastPosition
+                           && (static_cast<int>(field) > static_cast<int>(cursor.eLast)
+                               || (field == TextField::Keyframes && cursor.eLast == TextField::Keyframes)));
     if (!bFits) {
         cursor.iCandidate = (cursor.iCandidate + 1) % candidateCount;
         cursor.eLast = TextField::Unknown;
     }
+    cursor.iLastPosition = position;
     cursor.eLast = field;
     return cursor.iCandidate;
 }

@@ -38,6 +38,13 @@ public:
     /// borrow its characters (`QString::fromRawData`): nothing keeps it.
     int iChoose(QString const& name, int candidateCount, TextField field);
 
+    /// The same for child sets that share a script name (`name` may borrow
+    /// its characters as above): each wrote one block of lines in the order of
+    /// its own text, and a line's place in that order is `position` (where the name after the set's
+    /// name stands in the child, -1 when unknown), then `field`. A line that does not come after the
+    /// previous one closes the block; a line of unknown place goes to the current block.
+    int iChooseSet(QString const& name, int candidateCount, int position, TextField field);
+
     /// The targets of `name` among lists of `counts` entries, where `nameOf(list, position)` gives an
     /// entry's name (null for an entry that is gone). The reference lives until the next call. `name`
     /// may borrow its characters: nothing keeps it.
@@ -54,12 +61,18 @@ private:
 
     struct Cursor {
         int iCandidate = 0;
+        int iLastPosition = -1;
         TextField eLast = TextField::Unknown;
     };
+    static int iAdvance(Cursor& cursor, int candidateCount, int position, TextField field);
+    /// The cursor of `name`, made with a deep copy of the name when there is none yet.
+    static Cursor& cursorOf(QHash<QString, Cursor>& cursors, QString const& name);
+
     QHash<QString, Cursor> cursors;
     QHash<QString, LineTargets> nameIndex;
     std::array<int, 3> indexedCounts = {{-1, -1, -1}};
     unsigned int uiIndexedGeneration = 0;
+    QHash<QString, Cursor> setCursors;
 };
 
 template <class NameOf>

@@ -67,6 +67,25 @@ public:
     int twin = 0;
 };
 
+// Two children of one script name, as the two cameras of a warp.
+class TwinChildrenSet : public Prm::ParameterSet {
+public:
+    TwinChildrenSet() : Prm::ParameterSet("Warp", nullptr)
+    {
+        for (ChildSet* child : {&left, &right}) {
+            child->addParameter(&child->height);
+            childSets.append(child);
+        }
+        right.setDisplayName("Right");
+    }
+    struct ChildSet : ::ChildSet {
+        Prm::NumericParameter<double> height{true, "Height", 2.0, 0.0, 100.0, Prm::InterpolationLinear,
+                                             Prm::ExtrapolationHold};
+    };
+    ChildSet left;
+    ChildSet right;
+};
+
 void vFill(RootSet& set)
 {
     set.gain.vSetValue(1.5, 0.0f);
@@ -154,6 +173,34 @@ TEST(ParameterTextSet, SharedNamesCloseABlockOnARepeatedOrLateField)
     EXPECT_EQ(twins.keyed.staticValue(), 1.0);
     EXPECT_EQ(twins.twin, 7);
     EXPECT_EQ(twins.other, 0);
+}
+
+TEST(ParameterTextSet, ChildSetsSharingANameEachReadTheirOwnBlock)
+{
+    TwinChildrenSet source;
+    source.left.width.vSetValue(3.0, 1.0f);
+    source.right.width.vSetValue(5.0, 0.0f);
+    source.right.height.vSetValue(6.0, 0.0f);
+    source.right.height.vSetValue(7.0, 4.0f);
+    QString const text = Prm::ParameterTextDocument(source).qstrWrite();
+
+    TwinChildrenSet target;
+    Prm::ParameterTextDocument document(target);
+    for (int pass = 0; pass < 2; ++pass) {
+        EXPECT_EQ(document.iRead(text), text.count('\n'));
+        EXPECT_EQ(Prm::ParameterTextDocument(target).qstrWrite(), text);
+    }
+    EXPECT_EQ(target.left.width.keyframeValue(0), 3.0);
+    EXPECT_EQ(target.left.height.keyframeCount(), 0u);
+    EXPECT_EQ(target.right.height.keyframeCount(), 2u);
+
+    // A line that goes back in the child's order opens the next child; one of unknown place stays.
+    TwinChildrenSet lines;
+    for (char const* line : {"ROI.Height.value=8", "ROI.Unknown.value=1", "ROI.Width.value=9", "ROI.Height.value=10"})
+        lines.bStreamIn(line);
+    EXPECT_EQ(lines.left.height.staticValue(), 8.0);
+    EXPECT_EQ(lines.right.width.staticValue(), 9.0);
+    EXPECT_EQ(lines.right.height.staticValue(), 10.0);
 }
 
 TEST(ParameterTextSet, LinesNotTakenAndMastersNotFoundAreReported)

@@ -1,0 +1,9 @@
+#include "support/RenderSuite.h"
+
+namespace TQ {
+
+void RenderSuite::destroyResources()
+{
+}
+
+} // namespace TQ

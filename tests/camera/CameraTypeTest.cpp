@@ -1,0 +1,78 @@
+#include "bsc/Licence.h"
+#include "camera/CameraType.h"
+#include "camera/CriticalCapture.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+using TQ::CameraType;
+
+TEST(CameraType, InstancesAndOfferedTable)
+{
+    struct Row {
+        CameraType const& type;
+        int iId;
+        char const* name;
+        int iGan;
+    };
+    Row const rows[] = {{CameraType::LINEAR(), 0, "No distortion", 0},
+                        {CameraType::ONE_PARAMETER(), 1, "1-Parameter", 1},
+                        {CameraType::TWO_PARAMETER(), 2, "2-Parameter", 2},
+                        {CameraType::ONE_PARAMETER_INV(), 3, "1-Parameter Inv", 4},
+                        {CameraType::ANAMORPHIC(), 4, "Anamorphic", 9},
+                        {CameraType::DISTORTION_MAP(), 5, "Distortion Map", 15}};
+    QStringList names;
+    for (Row const& row : rows) {
+        EXPECT_EQ(row.iId, row.type.id);
+        EXPECT_EQ(row.name, row.type.name);
+        EXPECT_EQ(row.iGan, int(row.type.ganType));
+        // Without a licence query every type is offered, and lookups by id and by model agree.
+        EXPECT_EQ(row.name, CameraType::fromId(row.iId).name);
+        EXPECT_EQ(row.iId, CameraType::fromGandalf(row.type.ganType).id);
+        names << row.name;
+    }
+    EXPECT_EQ(names, CameraType::ALL_NAMES());
+    EXPECT_EQ(QList<int>({0, 1, 2, 3, 4, 5}), CameraType::s_allTypes().keys());
+    EXPECT_EQ(&CameraType::s_allTypes(), &CameraType::s_allTypes());
+}
+
+TEST(CameraType, UnknownIdsAndModelsReadAsLinearWithAMessage)
+{
+    struct Row {
+        bool bById;
+        int iValue;
+        char const* message;
+    };
+    Row const rows[] = {{true, 6, "CameraType::fromId(): invalid id 6 "},
+                        {true, -1, "CameraType::fromId(): invalid id -1 "},
+                        {false, 3, "CameraType::fromGandalf(): no camera type found for Gandalftype 3 "},
+                        {false, 10, "CameraType::fromGandalf(): no camera type found for Gandalftype 10 "}};
+    for (Row const& row : rows) {
+        CriticalCapture capture;
+        CameraType const& type = row.bById ? CameraType::fromId(row.iValue)
+                                           : CameraType::fromGandalf(static_cast<Gan_CameraType>(row.iValue));
+        EXPECT_EQ(&CameraType::LINEAR(), &type);
+        EXPECT_EQ(QStringList{row.message}, capture.messages());
+    }
+}
+
+// The table is filled once per process, so a refusing licence is tried in a process of its own.
+TEST(CameraType, RefusedLicenceLeavesOutTheDistortionMap)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    auto const run = [] {
+        QStringList asked;
+        Bsc::Licence::vSetQuery([&asked](QString const& feature) {
+            asked << feature;
+            return false;
+        });
+        CriticalCapture capture;
+        bool const bOk = CameraType::ALL_NAMES().size() == 5 && CameraType::fromId(5).id == 0
+                         && CameraType::fromGandalf(GAN_DISTORTION_MAP).id == 0 && capture.messages().size() == 2
+                         && asked == QStringList{"DistortionMap"} && CameraType::DISTORTION_MAP().id == 5;
+        Bsc::Licence::vSetQuery(Bsc::Licence::Query());
+        std::exit(bOk ? 0 : 1);
+    };
+    EXPECT_EXIT(run(), ::testing::ExitedWithCode(0), "");
+}
