@@ -36,7 +36,7 @@ for src in fuzz/*.cpp; do
     continue
   fi
   tail -n 3 "$log"
-  coverage=$(grep -o 'cov: [0-9]*' "$log" | tail -n 1 | awk '{print $2}' || true)
+  coverage=$(grep -a -o 'cov: [0-9]*' "$log" | tail -n 1 | awk '{print $2}' || true)
   floor=$(awk -v t="$name" '$1 == t { print $2 }' "$floors" 2>/dev/null || true)
   echo "== $name: coverage ${coverage:-0} edges (floor ${floor:-none})"
   if [ -n "$floor" ] && [ "$seconds" -ge 60 ] && [ "${coverage:-0}" -lt "$floor" ]; then
