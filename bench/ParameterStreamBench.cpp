@@ -1,6 +1,10 @@
-// Stream-in of a large text (a set with hundreds of keyed parameters) through the whole-text reader,
-// against reading the same lines with QTextStream::readLine alone. BM_ReadLinesOnly runs first and leaves
-// its time per text in a shared variable; BM_StreamIn reports its own time over that as "ratio".
+// Stream-in and stream-out of a large set through the whole-text reader and writer, each against a floor
+// measured in the same run:
+// - stream-in against reading the same lines with QTextStream::readLine alone ("ratio");
+// - the same text with 1% of its lines naming no parameter against the clean text ("damaged_ratio");
+// - stream-out against writing the same lines through QTextStream alone ("ratio");
+// and the heap bytes per parameter and per key of the loaded set.
+// The floors run first and leave their time per text in shared variables.
 #include "bsc/Logger.h"
 #include "prm/NumericParameter.h"
 #include "prm/set/ParameterSet.h"
@@ -8,22 +12,24 @@
 
 #include <benchmark/benchmark.h>
 
+#include <QStringList>
 #include <QTextStream>
-#include <chrono>
+#include <ctime>
+#include <malloc.h>
+#include <map>
 #include <memory>
 #include <vector>
 
 namespace {
 
-int const parameterCount = 400;
-int const keysPerParameter = 8;
+int const keysPerParameter = 50;
 
 class LargeSet : public Prm::ParameterSet {
 public:
-    LargeSet() : Prm::ParameterSet("Warper", nullptr)
+    explicit LargeSet(int count) : Prm::ParameterSet("Warper", nullptr)
     {
-        names.reserve(parameterCount);
-        for (int i = 0; i < parameterCount; ++i) {
+        names.reserve(count);
+        for (int i = 0; i < count; ++i) {
             names.push_back(QStringLiteral("Param%1").arg(i).toLatin1());
             parameters.push_back(std::make_unique<Prm::NumericParameter<double>>(
                 true, names.back().constData(), 0.0, -1e9, 1e9, Prm::InterpolationLinear, Prm::ExtrapolationHold));
@@ -34,60 +40,152 @@ public:
     std::vector<std::unique_ptr<Prm::NumericParameter<double>>> parameters;
 };
 
-QString const& largeText()
+void vFill(LargeSet& set)
 {
-    static QString const text = [] {
-        LargeSet set;
-        for (auto& parameter : set.parameters) {
-            for (int k = 0; k < keysPerParameter; ++k)
-                parameter->vSetValue(k * 0.37, static_cast<float>(k * 10));
-            parameter->vSetInterpolation(Prm::InterpolationBezier, 30.0f);
-        }
-        return Prm::ParameterTextDocument(set).qstrWrite();
-    }();
-    return text;
+    for (auto& parameter : set.parameters) {
+        for (int k = 0; k < keysPerParameter; ++k)
+            parameter->vSetValue(k * 0.37, static_cast<float>(k * 10));
+        parameter->vSetInterpolation(Prm::InterpolationBezier, 30.0f);
+    }
 }
 
-double baselineSecondsPerText = 0.0;
+struct Texts {
+    QString clean;
+    QString damaged;
+};
+
+// The clean text of a filled set, and a copy whose every hundredth line names a parameter the set lacks.
+Texts const& texts(int count)
+{
+    static std::map<int, Texts> cache;
+    auto found = cache.find(count);
+    if (found != cache.end())
+        return found->second;
+    LargeSet set(count);
+    vFill(set);
+    Texts made;
+    made.clean = Prm::ParameterTextDocument(set).qstrWrite();
+    QStringList lines = made.clean.split(QLatin1Char('\n'));
+    for (int i = 0; i < lines.size(); i += 100)
+        lines[i].replace(QLatin1String("Warper.Param"), QLatin1String("Warper.Unknown"));
+    made.damaged = lines.join(QLatin1Char('\n'));
+    return cache.emplace(count, made).first->second;
+}
+
+std::map<int, double> readLinesSeconds;
+std::map<int, double> cleanStreamInSeconds;
+std::map<int, double> writeLinesSeconds;
+
+// The thread's processor time, so that other work on a shared machine does not skew the ratios.
+double dThreadSeconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return double(now.tv_sec) + double(now.tv_nsec) * 1e-9;
+}
+
+template <class Body>
+double dSecondsPerRun(benchmark::State& state, Body body)
+{
+    double total = 0.0;
+    for (auto _ : state) {
+        double const start = dThreadSeconds();
+        body();
+        total += dThreadSeconds() - start;
+    }
+    return total / static_cast<double>(state.iterations());
+}
 
 void BM_ReadLinesOnly(benchmark::State& state)
 {
-    QString text = largeText();
-    double total = 0.0;
-    for (auto _ : state) {
-        auto const start = std::chrono::steady_clock::now();
+    int const count = int(state.range(0));
+    QString text = texts(count).clean;
+    readLinesSeconds[count] = dSecondsPerRun(state, [&text] {
         QTextStream in(&text, QIODevice::ReadOnly);
         int lines = 0;
         QString line;
         while (in.readLineInto(&line))
             ++lines;
         benchmark::DoNotOptimize(lines);
-        total += std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    }
-    baselineSecondsPerText = total / static_cast<double>(state.iterations());
+    });
     state.counters["lines"] = text.count(QLatin1Char('\n'));
 }
 
-void BM_StreamIn(benchmark::State& state)
+void BM_StreamIn(benchmark::State& state, bool bDamaged)
 {
     Bsc::Logger::instance().setSink([](std::string const&) {});
-    QString const& text = largeText();
-    LargeSet set;
-    double total = 0.0;
+    int const count = int(state.range(0));
+    QString const& text = bDamaged ? texts(count).damaged : texts(count).clean;
+    LargeSet set(count);
+    int unread = 0;
+    double const perText = dSecondsPerRun(state, [&] {
+        Prm::ParameterTextDocument document(set);
+        benchmark::DoNotOptimize(document.iRead(text));
+        unread = document.unreadLines().size();
+    });
+    state.counters["unread"] = unread;
+    state.counters["ratio"] = readLinesSeconds.count(count) ? perText / readLinesSeconds[count] : 0.0;
+    if (!bDamaged)
+        cleanStreamInSeconds[count] = perText;
+    else if (cleanStreamInSeconds.count(count))
+        state.counters["damaged_ratio"] = perText / cleanStreamInSeconds[count];
+    Bsc::Logger::instance().setSink(nullptr);
+}
+
+void BM_WriteLinesOnly(benchmark::State& state)
+{
+    int const count = int(state.range(0));
+    QStringList const lines = texts(count).clean.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    writeLinesSeconds[count] = dSecondsPerRun(state, [&lines] {
+        QString text;
+        QTextStream out(&text, QIODevice::WriteOnly);
+        for (QString const& line : lines)
+            out << line << '\n';
+        out.flush();
+        benchmark::DoNotOptimize(text.size());
+    });
+}
+
+void BM_StreamOut(benchmark::State& state)
+{
+    int const count = int(state.range(0));
+    LargeSet set(count);
+    vFill(set);
+    double const perText = dSecondsPerRun(state, [&set] {
+        benchmark::DoNotOptimize(Prm::ParameterTextDocument(set).qstrWrite().size());
+    });
+    state.counters["ratio"] = writeLinesSeconds.count(count) ? perText / writeLinesSeconds[count] : 0.0;
+}
+
+// Heap bytes that a set of `count` parameters takes once built, and once its text is loaded into it.
+void BM_LoadedBytes(benchmark::State& state)
+{
+    Bsc::Logger::instance().setSink([](std::string const&) {});
+    int const count = int(state.range(0));
+    QString const& text = texts(count).clean;
+    double perParameter = 0.0;
+    double perKey = 0.0;
     for (auto _ : state) {
-        auto const start = std::chrono::steady_clock::now();
-        benchmark::DoNotOptimize(Prm::ParameterTextDocument(set).iRead(text));
-        total += std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+        auto const before = mallinfo2().uordblks;
+        auto set = std::make_unique<LargeSet>(count);
+        auto const built = mallinfo2().uordblks;
+        Prm::ParameterTextDocument(*set).iRead(text);
+        auto const loaded = mallinfo2().uordblks;
+        perParameter = double(built - before) / count;
+        perKey = double(loaded - built) / (double(count) * keysPerParameter);
     }
-    double const perText = total / static_cast<double>(state.iterations());
-    state.counters["parameters"] = parameterCount;
-    state.counters["ratio"] = baselineSecondsPerText > 0.0 ? perText / baselineSecondsPerText : 0.0;
+    state.counters["bytes_per_parameter"] = perParameter;
+    state.counters["bytes_per_key"] = perKey;
     Bsc::Logger::instance().setSink(nullptr);
 }
 
 } // namespace
 
-BENCHMARK(BM_ReadLinesOnly)->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_StreamIn)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ReadLinesOnly)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK_CAPTURE(BM_StreamIn, clean, false)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK_CAPTURE(BM_StreamIn, damaged, true)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(BM_WriteLinesOnly)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(BM_StreamOut)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(BM_LoadedBytes)->Arg(20000)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 BENCHMARK_MAIN();

@@ -1,13 +1,15 @@
 // value() of a keyframed numeric parameter against a bare binary search plus lerp over plain arrays of the
 // same keys. Each run reports "ratio" = parameter ns per read / baseline ns per read, both timed the same way
-// in the same process.
+// in the same process. Bezier rows also report "floor_ratio" against a fair floor: the same search plus the
+// same cubic solve and evaluation (Prm::detail::bBezierAt) over plain arrays of keys and handles.
+#include "prm/curve/Interpolate.h"
 #include "prm/NumericParameter.h"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
+#include <ctime>
 #include <random>
 #include <vector>
 
@@ -22,6 +24,7 @@ struct Curve {
     NumericParameter<double> parameter;
     std::vector<float> times;
     std::vector<double> values;
+    std::vector<IType> records;
     std::vector<float> queries;
 };
 
@@ -34,6 +37,8 @@ void vFill(Curve& curve, int keys)
         curve.times.push_back(time);
         curve.values.push_back(value);
     }
+    for (int i = 0; i < keys; ++i)
+        curve.records.push_back(curve.parameter.interpolationData(static_cast<unsigned int>(i)));
     std::mt19937 random(12345);
     std::uniform_real_distribution<float> spread(0.0f, curve.times.back());
     for (std::size_t i = 0; i < kQueries; ++i)
@@ -50,16 +55,34 @@ double dBaseline(std::vector<float> const& times, std::vector<double> const& val
     return values[i] + (double(t) - times[i]) * (values[i + 1] - values[i]) / (double(times[i + 1]) - times[i]);
 }
 
+double dBezierFloor(Curve const& curve, float t)
+{
+    std::vector<float> const& times = curve.times;
+    if (t <= times.front())
+        return curve.values.front();
+    if (t >= times.back())
+        return curve.values.back();
+    std::size_t const i = std::size_t(std::upper_bound(times.begin(), times.end(), t) - times.begin()) - 1;
+    double result = 0.0;
+    detail::bBezierAt(times[i], curve.values[i], times[i + 1], curve.values[i + 1], curve.records[i], t, result);
+    return result;
+}
+
 template <class Read>
 double dNanosecondsPerRead(Curve const& curve, std::size_t reads, Read read)
 {
-    auto const start = std::chrono::steady_clock::now();
+    // The thread's processor time, so that other work on a shared machine does not skew the ratios.
+    auto const now = [] {
+        timespec time{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return double(time.tv_sec) * 1e9 + double(time.tv_nsec);
+    };
+    double const start = now();
     double sink = 0.0;
     for (std::size_t i = 0; i < reads; ++i)
         sink += read(curve.queries[i % kQueries]);
     benchmark::DoNotOptimize(sink);
-    std::chrono::duration<double, std::nano> const elapsed = std::chrono::steady_clock::now() - start;
-    return elapsed.count() / double(reads);
+    return (now() - start) / double(reads);
 }
 
 void BM_ParameterValue(benchmark::State& state, Interpolation kind)
@@ -78,6 +101,12 @@ void BM_ParameterValue(benchmark::State& state, Interpolation kind)
     state.counters["baseline_ns"] = baseNs;
     state.counters["parameter_ns"] = paramNs;
     state.counters["ratio"] = paramNs / baseNs;
+    if (kind == InterpolationBezier) {
+        double const floorNs =
+            dNanosecondsPerRead(curve, reads, [&curve](float t) { return dBezierFloor(curve, t); });
+        state.counters["floor_ns"] = floorNs;
+        state.counters["floor_ratio"] = paramNs / floorNs;
+    }
 }
 
 /// Object sizes, not times: the warper and camera sets hold nearly 600 parameters each. The QObject's

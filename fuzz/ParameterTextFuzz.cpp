@@ -1,5 +1,6 @@
 // Feeds arbitrary bytes, as UTF-8 text, to the whole-text reader of a set holding parameters of several
-// value types, a shared script name, a basic parameter and a nested child set, then writes the set out.
+// value types, a shared script name, a basic parameter and a nested child set, then writes the set out,
+// reads it everywhere, rescales two curves and reads the written text again.
 #include "bsc/Logger.h"
 #include "prm/NumericParameter.h"
 #include "prm/set/ParameterSet.h"
@@ -81,6 +82,13 @@ extern "C" int LLVMFuzzerTestOneInput(uint8_t const* data, std::size_t size)
         set.on.value(time, nullptr);
         set.level.value(time, nullptr);
         set.label.value(time, nullptr);
+        set.roi.width.value(time, nullptr);
+    }
+    // Rescaling walks the keys as read, NaN and infinite times included: it must end.
+    set.clip *= 1.5;
+    set.roi.width *= -0.5;
+    for (float time : {-1e30f, 0.0f, 3.0f}) {
+        set.clip.value(time, nullptr);
         set.roi.width.value(time, nullptr);
     }
     FuzzSet again;

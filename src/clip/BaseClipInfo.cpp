@@ -130,6 +130,11 @@ void TQ_BaseClipInfo::vAddVirtual(char const* name, T* member)
 
 void TQ_BaseClipInfo::init()
 {
+    // The fields are bound once: a second set of parameters would read every line twice and leak.
+    for (Prm::BasicParameter const* parameter : basicParameters) {
+        if (parameter && parameter->scriptName() == QLatin1String("ClipLength"))
+            return;
+    }
     vAddVirtual("ClipLength", &ClipLength);
     vAddVirtual("FrameWidth", &FrameWidth);
     vAddVirtual("FrameHeight", &FrameHeight);

@@ -24,6 +24,9 @@ public:
     ~TQ_BaseClipInfo() override;
     /// Copies every member, both display names and the script name; the parameters stay bound to this object.
     TQ_BaseClipInfo& operator=(TQ_BaseClipInfo const& other);
+    /// Binds one new virtual parameter per field, in text order, and hands their ownership to the set.
+    /// Every constructor runs it; a later call finds the fields bound already and changes nothing.
+    void init();
 
     unsigned int getClipLength() const;
     QSize getFrameSize() const;
@@ -68,11 +71,6 @@ public:
     float ViewZoom;
     _TQ_CLIP_MODE ClipModeBefore;
     _TQ_CLIP_MODE ClipModeAfter;
-
-protected:
-    /// Binds one new virtual parameter per field, in text order, and hands their ownership to the set.
-    /// Runs once per object, from each constructor.
-    void init();
 
 private:
     void vCopyMembers(TQ_BaseClipInfo const& other);

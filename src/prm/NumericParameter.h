@@ -5,6 +5,7 @@
 #include "prm/ValueConversion.h"
 
 #include <boost/shared_ptr.hpp>
+#include <cmath>
 #include <limits>
 
 namespace Prm {
@@ -78,7 +79,7 @@ public:
     bool bStreamInLine(QString const& line) override;
 
     /// `unsigned int` and `float` only: scales every key's (clamped) value by `factor`; a parameter
-    /// without keys is left alone.
+    /// without keys is left alone, and a key at a NaN time (read from a damaged text) keeps its value.
     template <class U = T,
               class = std::enable_if_t<std::is_same<U, unsigned int>::value || std::is_same<U, float>::value>>
     NumericParameter& operator*=(double factor);
@@ -118,6 +119,10 @@ NumericParameter<T>& NumericParameter<T>::operator*=(double factor)
 {
     for (unsigned int i = 0; i < this->keyframeCount(); ++i) {
         float const time = this->keyframeTime(i);
+        // A key at a NaN time cannot be found by its time: setting a value there would append a new
+        // key on every round and the loop would never end. Such a key keeps its value.
+        if (std::isnan(time))
+            continue;
         double const scaled = dToDouble(this->value(time, nullptr)) * factor;
         this->vSetValue(tFromDouble<T>(scaled), time);
     }

@@ -84,7 +84,7 @@ template <class T>
 Parameter<T>& Parameter<T>::operator=(Parameter const& other)
 {
     displayName = other.displayName;
-    scriptName = other.scriptName;
+    vAssignScriptName(other.scriptName);
     bHidden = other.bHidden;
     bKeyframed = other.bKeyframed;
     tStaticValue = other.tStaticValue;
@@ -232,13 +232,21 @@ int Parameter<T>::vSetValue(T const& newValue, float time)
         vRaise(ParameterChange::ValueChanged, static_cast<unsigned int>(-1));
         return -1;
     }
-    int index = iKeyIndex(time);
+    // iKeyIndex and iNextKeyIndex in one pass: the first key at `time`, else the first key after it.
+    int index = -1;
+    int next = -1;
+    for (int i = 0, n = keyframes.size(); i < n && index < 0; ++i) {
+        float const keyTime = keyframes[i].fTime;
+        if (keyTime == time)
+            index = i;
+        else if (next < 0 && keyTime > time)
+            next = i;
+    }
     if (index >= 0) {
         keyframes[index].tValue = newValue;
         vRaise(ParameterChange::ValueChanged, static_cast<unsigned int>(index));
         return index;
     }
-    int const next = iNextKeyIndex(time);
     // A set key takes the kind of the segment it will start, unlike iAddKeyframe.
     Interpolation const kind = next == -1 ? eDefaultInterpolation : eRecordKind(next);
     index = iInsertKey(KeyframeData<T>{time, newValue}, next, kind);
@@ -640,17 +648,23 @@ LineRead eReadKeyLine(Parameter<T>& parameter, QString const& line,
 {
     // Only the case-sensitive block word tells the two blocks apart, wherever it stands.
     bool const bBezier = line.contains(QLatin1String("BezierKey"), Qt::CaseSensitive);
-    QStringList tokens = parseKeyframeDeclaration(line);
+    // The entries of parseKeyframeDeclaration, as views: no copy of each on the load path.
+    KeyframeEntries tokens;
+    vKeyframeDeclarationEntries(line, tokens);
     if (tokens.size() < 3) {
         vLogKeyFailure("Key", line);
         return LineRead::Failed;
     }
     float const time = tokens.at(0).toFloat();
-    QString text = textFilter ? textFilter(tokens.at(1)) : tokens.at(1);
-    int const index = parameter.vSetValue(ValueText<T>::tRead(text), time);
+    T value{};
+    if (textFilter || !NumberText::bReadPlain(tokens.at(1), value)) {
+        QString text = textFilter ? textFilter(tokens.at(1).toString()) : tokens.at(1).toString();
+        value = ValueText<T>::tRead(text);
+    }
+    int const index = parameter.vSetValue(value, time);
     if (!bBezier) {
         Interpolation interpolation = InterpolationUnset;
-        if (bStringToInterpolationType(tokens.at(2), interpolation))
+        if (bInterpolationOfEntry(tokens.at(2), interpolation))
             parameter.vSetInterpolation(interpolation, time);
         return LineRead::Taken;
     }
@@ -663,7 +677,7 @@ LineRead eReadKeyLine(Parameter<T>& parameter, QString const& line,
     record.dOutTime = tokens.at(2).toDouble();
     record.dOutValue = tokens.at(3).toDouble();
     record.dInTime = tokens.at(4).toDouble();
-    record.dInValue = tokens[5].remove(QLatin1Char(')')).toDouble();
+    record.dInValue = tokens.at(5).toString().remove(QLatin1Char(')')).toDouble();
     // -1 (not keyframed) becomes an index out of range, which the setter ignores.
     parameter.vSetInterpolationData(record, static_cast<unsigned int>(index));
     return LineRead::Taken;
@@ -685,12 +699,18 @@ QString Parameter<T>::indexSuffixString(int index) const
                                         .arg(record.dInTime, 0, 'g', -1)
                                         .arg(record.dInValue, 0, 'g', -1)
                                   : qstrInterpolationTypeString(record.eType);
-    // The value goes in last, so that a text value holding a marker is not filled in again.
-    return QStringLiteral("keyframes.append( %2( %1, %4, %3 ) )")
-        .arg(static_cast<double>(key.fTime), 0, 'g', -1)
-        .arg(bBezier ? QStringLiteral("BezierKey") : QStringLiteral("Key"))
-        .arg(curve)
-        .arg(ValueText<T>::qstrWritten(key.tValue));
+    // Joined piece by piece rather than by markers, so that nothing in a text value is filled in; the
+    // time prints as arg(double) would print it.
+    QString line;
+    line.reserve(64);
+    line += QLatin1String(bBezier ? "keyframes.append( BezierKey( " : "keyframes.append( Key( ");
+    line += QString::number(static_cast<double>(key.fTime), 'g', 6);
+    line += QLatin1String(", ");
+    line += ValueText<T>::qstrWritten(key.tValue);
+    line += QLatin1String(", ");
+    line += curve;
+    line += QLatin1String(" ) )");
+    return line;
 }
 
 template <class T>

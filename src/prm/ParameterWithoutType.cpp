@@ -2,6 +2,7 @@
 
 #include "bsc/Command.h"
 #include "prm/edit/ConstraintEdits.h"
+#include "prm/text/ParameterLineRouter.h"
 #include "prm/set/ParameterSet.h"
 
 namespace Prm {
@@ -18,6 +19,7 @@ ParameterWithoutType* masterOf(ParameterWithoutType const* parameter)
 ParameterWithoutType::ParameterWithoutType()
     : QObject(), bHidden(false), pOwner(nullptr)
 {
+    ParameterLineRouter::vNamesChanged();
 }
 
 ParameterWithoutType::ParameterWithoutType(ParameterWithoutType const& other)
@@ -29,10 +31,12 @@ ParameterWithoutType::ParameterWithoutType(ParameterWithoutType const& other)
       bHidden(other.bHidden),
       pOwner(nullptr)
 {
+    ParameterLineRouter::vNamesChanged();
 }
 
 ParameterWithoutType::~ParameterWithoutType()
 {
+    ParameterLineRouter::vNamesChanged();
     if (ParameterWithoutType* oldMaster = masterOf(this))
         oldMaster->followers.removeAll(QPointer<ParameterWithoutType>(this));
 }
@@ -116,10 +120,22 @@ void ParameterWithoutType::setDisplayName(QString const& name)
 void ParameterWithoutType::setScriptName(QString const& name)
 {
     scriptName = name;
+    ParameterLineRouter::vNamesChanged();
+}
+
+void ParameterWithoutType::vAssignScriptName(QString const& name)
+{
+    if (scriptName == name)
+        return;
+    scriptName = name;
+    ParameterLineRouter::vNamesChanged();
 }
 
 void ParameterWithoutType::vRaise(ParameterChange::ParameterChanges kind, unsigned int index)
 {
+    // Blocked signals reach no one: a read with signals blocked need not build the change.
+    if (signalsBlocked())
+        return;
     ParameterChange change(kind, this, index);
     emit changed(change);
 }

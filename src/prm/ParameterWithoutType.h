@@ -131,6 +131,9 @@ protected:
     bool bFollow(ParameterWithoutType* newMaster);
     /// The master in its untyped view, or null.
     ParameterWithoutType* masterBase() const { return qobject_cast<ParameterWithoutType*>(masterParameter.data()); }
+    /// Sets `scriptName` without the virtual setter, telling the sets' name indexes when it changes. A
+    /// subclass that writes `scriptName` after construction goes through here.
+    void vAssignScriptName(QString const& name);
     /// Whether the chain of masters that starts at `start` (itself included) reaches this parameter.
     bool bIsInChainOf(ParameterWithoutType const* start) const;
 

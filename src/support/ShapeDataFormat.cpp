@@ -31,10 +31,10 @@ TQ_ShapeDataFormat TQ_ShapeDataFormat::byName(QString const& fileTypeFilter)
 }
 
 #define TQ_DEFINE_SHAPE_DATA_FORMAT(Function, filter, extension, bFlag, hostTag)                          \
-    TQ_ShapeDataFormat const& TQ_ShapeDataFormat::Function()                                             \
+    TQ_ShapeDataFormat& TQ_ShapeDataFormat::Function()                                                   \
     {                                                                                                    \
-        static TQ_ShapeDataFormat const format(QStringLiteral(filter), QStringLiteral(extension), bFlag,  \
-                                               QStringLiteral(hostTag));                                 \
+        static TQ_ShapeDataFormat format(QStringLiteral(filter), QStringLiteral(extension), bFlag,        \
+                                         QStringLiteral(hostTag));                                       \
         return format;                                                                                   \
     }
 
@@ -50,10 +50,10 @@ TQ_DEFINE_SHAPE_DATA_FORMAT(COMBUSTION_GMASK_SCRIPT, "Combustion GMask Script (*
 TQ_DEFINE_SHAPE_DATA_FORMAT(SHAKE_ROTOSHAPE_SCRIPT, "Shake Script (*.shk)", ".shk", false, "shake")
 
 // Label and extension are the layer script's own exported texts.
-TQ_ShapeDataFormat const& TQ_ShapeDataFormat::VANTREL_SHAPE_SCRIPT()
+TQ_ShapeDataFormat& TQ_ShapeDataFormat::VANTREL_SHAPE_SCRIPT()
 {
-    static TQ_ShapeDataFormat const format(QString::fromLatin1(_TQ_LayerDataFormatName),
-                                           QString::fromLatin1(_TQ_LayerDataFormatExtension), false,
-                                           QStringLiteral("generic"));
+    static TQ_ShapeDataFormat format(QString::fromLatin1(_TQ_LayerDataFormatName),
+                                     QString::fromLatin1(_TQ_LayerDataFormatExtension), false,
+                                     QStringLiteral("generic"));
     return format;
 }

@@ -20,17 +20,19 @@ public:
     TQ_ShapeDataFormat(QString const& fileTypeFilter, QString const& extension, bool bFlag,
                        QString const& hostTag);
 
-    /// The named formats; each reference is to a static object built on the first call.
-    static TQ_ShapeDataFormat const& NUKE_ROTO();
-    static TQ_ShapeDataFormat const& NUKE_ROTO_PAINT();
-    static TQ_ShapeDataFormat const& VANTREL_SHAPE_SCRIPT();
-    static TQ_ShapeDataFormat const& FC_LUMBA_SHAPE();
-    static TQ_ShapeDataFormat const& AE_LUMBA_SHAPE();
-    static TQ_ShapeDataFormat const& SHAKE_SSF_SCRIPT();
-    static TQ_ShapeDataFormat const& FLAME_BATCH_SCRIPT();
-    static TQ_ShapeDataFormat const& FLAME_GMASK_SCRIPT();
-    static TQ_ShapeDataFormat const& COMBUSTION_GMASK_SCRIPT();
-    static TQ_ShapeDataFormat const& SHAKE_ROTOSHAPE_SCRIPT();
+    /// The named formats; each reference is to a static object built on the first call. The reference is
+    /// not const so that a host may bind a plain reference; the registry keeps its own copy, so changing
+    /// the object does not change what `byName` and `MAP_ALL` give.
+    static TQ_ShapeDataFormat& NUKE_ROTO();
+    static TQ_ShapeDataFormat& NUKE_ROTO_PAINT();
+    static TQ_ShapeDataFormat& VANTREL_SHAPE_SCRIPT();
+    static TQ_ShapeDataFormat& FC_LUMBA_SHAPE();
+    static TQ_ShapeDataFormat& AE_LUMBA_SHAPE();
+    static TQ_ShapeDataFormat& SHAKE_SSF_SCRIPT();
+    static TQ_ShapeDataFormat& FLAME_BATCH_SCRIPT();
+    static TQ_ShapeDataFormat& FLAME_GMASK_SCRIPT();
+    static TQ_ShapeDataFormat& COMBUSTION_GMASK_SCRIPT();
+    static TQ_ShapeDataFormat& SHAKE_ROTOSHAPE_SCRIPT();
 
     /// The registry itself, created empty on first use; the library's own access to it.
     static Map& _formatsByName();

@@ -16,8 +16,10 @@ public:
     ~CountedBasic() override { ++*deaths; }
     bool bStreamOut(QTextStream&, QString const&, bool) const override { return true; }
     bool bStreamIn(QString const&) override { return false; }
-    QString scriptName() const override { return QStringLiteral("Basic"); }
+    // The signature a host subclass writes: the name by reference.
+    QString const& scriptName() const override { return name; }
     int* deaths;
+    QString const name = QStringLiteral("Basic");
 };
 
 class TestSet : public ParameterSet {

@@ -35,7 +35,7 @@ TEST(ShapeDataFormat, RegistryFillsLazilyAndListsInLabelOrder)
 
     // Built once, whatever the number of calls; the counter rises once and numbers it.
     int const countAfterFallback = TQ_ShapeDataFormat::enumCount;
-    TQ_ShapeDataFormat const& combustion = TQ_ShapeDataFormat::COMBUSTION_GMASK_SCRIPT();
+    TQ_ShapeDataFormat& combustion = TQ_ShapeDataFormat::COMBUSTION_GMASK_SCRIPT(); // a host's plain reference
     EXPECT_EQ(&TQ_ShapeDataFormat::COMBUSTION_GMASK_SCRIPT(), &combustion);
     EXPECT_EQ(TQ_ShapeDataFormat::enumCount, countAfterFallback + 1);
     EXPECT_EQ(TQ_ShapeDataFormat::byName(kCombustion).iEnumValue, countAfterFallback);

@@ -1,9 +1,17 @@
 #include "prm/basic/BasicParameter.h"
 
+#include "prm/text/ParameterLineRouter.h"
+
 namespace Prm {
 
-BasicParameter::BasicParameter() : QObject(nullptr) {}
+BasicParameter::BasicParameter() : QObject(nullptr)
+{
+    ParameterLineRouter::vNamesChanged();
+}
 
-BasicParameter::~BasicParameter() = default;
+BasicParameter::~BasicParameter()
+{
+    ParameterLineRouter::vNamesChanged();
+}
 
 } // namespace Prm

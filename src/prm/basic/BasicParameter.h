@@ -19,7 +19,8 @@ public:
     virtual bool bStreamOut(QTextStream& out, QString const& prefix, bool bQualify) const = 0;
     /// Reads one line that has lost its prefix; true when taken.
     virtual bool bStreamIn(QString const& line) = 0;
-    virtual QString scriptName() const = 0;
+    /// The name in the text format; the reference lives as long as the parameter.
+    virtual QString const& scriptName() const = 0;
 
 signals:
     void valueChanged();

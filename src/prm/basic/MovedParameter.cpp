@@ -19,7 +19,7 @@ bool MovedParameter::bStreamIn(QString const& line)
     return target ? target->bStreamIn(line) : true;
 }
 
-QString MovedParameter::scriptName() const
+QString const& MovedParameter::scriptName() const
 {
     return qstrName;
 }

@@ -21,7 +21,7 @@ public:
     bool bStreamOut(QTextStream& out, QString const& prefix, bool bQualify) const override;
     /// The target's result for `line`; true without a target.
     bool bStreamIn(QString const& line) override;
-    QString scriptName() const override;
+    QString const& scriptName() const override;
     BasicParameter* targetParameter() const;
 
 protected:

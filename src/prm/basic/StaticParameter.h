@@ -27,7 +27,7 @@ public:
     /// the first `=`, stores it through `doSetValue` and raises `valueChanged`. A value that does not
     /// parse stores what the reader left (zero for numbers) and still counts as read.
     bool bStreamIn(QString const& line) override;
-    QString scriptName() const override;
+    QString const& scriptName() const override;
     virtual void doSetValue(T const& value) = 0;
     virtual T value() const = 0;
 
@@ -72,7 +72,7 @@ bool StaticParameter<T>::bStreamIn(QString const& line)
 }
 
 template <class T>
-QString StaticParameter<T>::scriptName() const
+QString const& StaticParameter<T>::scriptName() const
 {
     return qstrName;
 }

@@ -5,37 +5,23 @@
 
 #include <QTextStream>
 
-#include <algorithm>
-
 namespace Prm {
-
-namespace {
-
-// The `index`-th of the basic parameters named `name`.
-bool bStreamInBasic(QVector<BasicParameter*> const& basicParameters, QString const& name, int index,
-                    QString const& line)
-{
-    for (BasicParameter* parameter : basicParameters) {
-        if (parameter && parameter->scriptName() == name && index-- == 0)
-            return parameter->bStreamIn(line);
-    }
-    return false;
-}
-
-} // namespace
 
 ParameterSet::ParameterSet(QString const& name, ParameterTree*)
     : bBasicParametersOwned(false), displayName(name), scriptName(name)
 {
+    ParameterLineRouter::vNamesChanged();
 }
 
 ParameterSet::ParameterSet(ParameterSet const& other)
     : bBasicParametersOwned(false), displayName(other.displayName), scriptName(other.scriptName)
 {
+    ParameterLineRouter::vNamesChanged();
 }
 
 ParameterSet::~ParameterSet()
 {
+    ParameterLineRouter::vNamesChanged();
     // A parameter that outlives its set must not keep a dangling owner.
     for (QPointer<ParameterWithoutType> const& parameter : parameters) {
         if (parameter && parameter->pOwner == this)
@@ -54,11 +40,13 @@ void ParameterSet::setDisplayName(QString const& newDisplayName, QString const& 
 {
     displayName = newDisplayName;
     scriptName = newScriptName;
+    ParameterLineRouter::vNamesChanged();
 }
 
 void ParameterSet::setScriptName(QString const& name)
 {
     scriptName = name;
+    ParameterLineRouter::vNamesChanged();
 }
 
 bool ParameterSet::bStreamOut(QTextStream& out, QString const& prefix, bool bQualify)
@@ -84,93 +72,69 @@ bool ParameterSet::bStreamIn(QString const& line)
     int const dot = line.indexOf(QLatin1Char('.'));
     if (dot <= 0)
         return false;
-    QString const name = line.left(dot);
+    // The name only looks things up, so it may borrow the line's characters.
+    QString const name = QString::fromRawData(line.constData(), dot);
     QString const rest = line.mid(dot + 1);
-    QVector<int> const positions = positionsOf(name);
-    int basicCount = 0;
-    for (BasicParameter* parameter : basicParameters) {
-        if (parameter && parameter->scriptName() == name)
-            ++basicCount;
-    }
-    int const count = positions.size() + basicCount;
+    LineTargets const& targets = targetsOf(name);
+    int const parameterCount = targets.parameters.size();
+    int const count = parameterCount + targets.basicParameters.size();
     if (count > 0) {
         int const chosen = count > 1 ? lineRouter.iChoose(name, count, eTextField(rest)) : 0;
-        if (chosen < positions.size() ? parameters.at(positions.at(chosen))->bStreamInLine(rest)
-                                      : bStreamInBasic(basicParameters, name, chosen - positions.size(), rest))
+        if (chosen < parameterCount ? parameters.at(targets.parameters.at(chosen))->bStreamInLine(rest)
+                                    : basicParameters.at(targets.basicParameters.at(chosen - parameterCount))
+                                          ->bStreamIn(rest))
             return true;
     }
-    return bStreamInChild(name, rest);
+    // A child may take the line only after the index above is done with: copy its positions.
+    return bStreamInChild(name, rest, QVector<int>(targets.childSets));
 }
 
-bool ParameterSet::bStreamInChild(QString const& name, QString const& rest)
+LineTargets const& ParameterSet::targetsOf(QString const& name)
 {
-    auto const bNamed = [&name](ParameterSet const* child) { return child && child->scriptName == name; };
+    auto const nameOf = [this](int list, int position) -> QString const* {
+        if (list == ParameterLineRouter::Parameters) {
+            ParameterWithoutType const* parameter = parameters.at(position).data();
+            return parameter ? &parameter->qstrScriptName() : nullptr;
+        }
+        if (list == ParameterLineRouter::BasicParameters) {
+            BasicParameter const* parameter = basicParameters.at(position);
+            return parameter ? &parameter->scriptName() : nullptr;
+        }
+        ParameterSet const* child = childSets.at(position);
+        return child ? &child->scriptName : nullptr;
+    };
+    return lineRouter.targetsOf(name, {{parameters.size(), basicParameters.size(), childSets.size()}}, nameOf);
+}
+
+bool ParameterSet::bStreamInChild(QString const& name, QString const& rest, QVector<int> const& children)
+{
     ParameterSet* chosen = nullptr;
-    int const count = static_cast<int>(std::count_if(childSets.cbegin(), childSets.cend(), bNamed));
-    if (count > 1) {
+    if (children.size() > 1) {
         // Children that share a name (the two cameras of a warp) each get back the block they wrote.
-        auto named = std::find_if(childSets.cbegin(), childSets.cend(), bNamed);
         int const dot = rest.indexOf(QLatin1Char('.'));
         TextField const field = dot > 0 ? eTextField(rest.mid(dot + 1)) : TextField::Unknown;
-        for (int skip = lineRouter.iChooseSet(name, count, (*named)->iTextPosition(rest.left(dot)), field); skip > 0;
-             --skip)
-            named = std::find_if(named + 1, childSets.cend(), bNamed);
-        chosen = *named;
+        int const position = childSets.at(children.first())->iTextPosition(rest.left(dot));
+        chosen = childSets.at(children.at(lineRouter.iChooseSet(name, children.size(), position, field)));
         if (chosen->bStreamIn(rest))
             return true;
     }
-    for (ParameterSet* child : childSets) {
-        if (child != chosen && bNamed(child) && child->bStreamIn(rest))
+    for (int position : children) {
+        ParameterSet* child = childSets.at(position);
+        if (child != chosen && child->bStreamIn(rest))
             return true;
     }
     return false;
 }
 
-bool ParameterSet::bIndexHolds(QVector<int> const& positions, QString const& name) const
-{
-    if (positions.isEmpty())
-        return false;
-    for (int position : positions) {
-        ParameterWithoutType const* parameter = parameters.at(position).data();
-        if (!parameter || parameter->qstrScriptName() != name)
-            return false;
-    }
-    return true;
-}
-
-QVector<int> ParameterSet::positionsOf(QString const& name)
-{
-    int const count = parameters.size();
-    if (count == iIndexedCount) {
-        auto const found = nameIndex.constFind(name);
-        if (found != nameIndex.constEnd() && bIndexHolds(*found, name))
-            return *found;
-    }
-    nameIndex.clear();
-    for (int position = 0; position < count; ++position) {
-        if (ParameterWithoutType const* parameter = parameters.at(position).data())
-            nameIndex[parameter->qstrScriptName()].append(position);
-    }
-    iIndexedCount = count;
-    return nameIndex.value(name);
-}
-
 int ParameterSet::iTextPosition(QString const& name)
 {
-    QVector<int> const positions = positionsOf(name);
-    if (!positions.isEmpty())
-        return positions.first();
-    int position = parameters.size();
-    for (BasicParameter const* parameter : basicParameters) {
-        if (parameter && parameter->scriptName() == name)
-            return position;
-        ++position;
-    }
-    for (ParameterSet const* child : childSets) {
-        if (child && child->scriptName == name)
-            return position;
-        ++position;
-    }
+    LineTargets const& targets = targetsOf(name);
+    if (!targets.parameters.isEmpty())
+        return targets.parameters.first();
+    if (!targets.basicParameters.isEmpty())
+        return parameters.size() + targets.basicParameters.first();
+    if (!targets.childSets.isEmpty())
+        return parameters.size() + basicParameters.size() + targets.childSets.first();
     return -1;
 }
 
@@ -178,6 +142,7 @@ void ParameterSet::assignName(QString const& name)
 {
     displayName = name;
     scriptName = name;
+    ParameterLineRouter::vNamesChanged();
 }
 
 void ParameterSet::addParameter(ParameterWithoutType* parameter)
@@ -204,6 +169,7 @@ ParameterSet& ParameterSet::operator=(ParameterSet const& other)
 {
     displayName = other.displayName;
     scriptName = other.scriptName;
+    ParameterLineRouter::vNamesChanged();
     return *this;
 }
 

@@ -63,25 +63,20 @@ protected:
     bool bBasicParametersOwned;
 
 private:
-    /// Hands a line to the child set `name`; among children that share the name, to the one whose block
-    /// the line continues.
-    bool bStreamInChild(QString const& name, QString const& rest);
+    /// Hands a line to the child sets at `children`, all named `name`; among several, first to the one
+    /// whose block the line continues.
+    bool bStreamInChild(QString const& name, QString const& rest, QVector<int> const& children);
+    /// Where the lines of `name` may go, from the router's name index.
+    LineTargets const& targetsOf(QString const& name);
     /// Where a parameter, basic parameter or child named `name` stands in this set's text, -1 for none.
     int iTextPosition(QString const& name);
 
     QString displayName;
     QString scriptName;
     QVector<QPointer<ParameterWithoutType>> parameters;
-    // Reading state, never copied or assigned: where each script name sits in `parameters`, for the
-    // parameter count it was built at, and the choice among parameters that share a name.
-    QHash<QString, QVector<int>> nameIndex;
-    int iIndexedCount = -1;
+    // Reading state, never copied or assigned: the name index and the choice among parameters that
+    // share a name.
     ParameterLineRouter lineRouter;
-
-    /// Positions in `parameters` of those named `name`, from `nameIndex`, which is rebuilt when the count
-    /// changed, when the name is not in it, or when a listed parameter is gone or renamed.
-    QVector<int> positionsOf(QString const& name);
-    bool bIndexHolds(QVector<int> const& positions, QString const& name) const;
 };
 
 } // namespace Prm

@@ -31,18 +31,34 @@ QString qstrName(int value, QStringList const& names)
     return QStringLiteral("Custom %1").arg(value - names.size());
 }
 
-QString qstrCleaned(QString const& text)
+// Qt's comparison ignoring case, with a quick answer for the ASCII texts that files hold.
+bool bSameName(QStringRef const& text, QString const& name)
 {
-    QString cleaned(text);
-    cleaned.remove(QLatin1Char(')'));
-    return cleaned.trimmed();
+    if (text.size() != name.size())
+        return false;
+    for (int i = 0; i < text.size(); ++i) {
+        ushort const a = text.at(i).unicode();
+        ushort const b = name.at(i).unicode();
+        if (a >= 0x80)
+            return text.compare(name, Qt::CaseInsensitive) == 0;
+        auto const lower = [](ushort c) { return (c >= 'A' && c <= 'Z') ? ushort(c + ('a' - 'A')) : c; };
+        if (lower(a) != lower(b))
+            return false;
+    }
+    return true;
 }
 
-bool bValueOfName(QString const& text, QStringList const& names, int& value)
+bool bValueOfName(QStringRef const& text, QStringList const& names, int& value)
 {
-    QString const cleaned = qstrCleaned(text);
+    // Closing parentheses and blanks around the name are not part of it; most texts have neither.
+    QString withoutParentheses;
+    QStringRef cleaned = text.trimmed();
+    if (text.contains(QLatin1Char(')'))) {
+        withoutParentheses = text.toString().remove(QLatin1Char(')'));
+        cleaned = QStringRef(&withoutParentheses).trimmed();
+    }
     for (int i = 0; i < names.size(); ++i) {
-        if (cleaned.compare(names.at(i), Qt::CaseInsensitive) == 0) {
+        if (bSameName(cleaned, names.at(i))) {
             value = i;
             return true;
         }
@@ -72,6 +88,11 @@ QString qstrExtrapolationTypeString(Extrapolation extrapolation)
 
 bool bStringToInterpolationType(QString const& text, Interpolation& out)
 {
+    return bInterpolationOfEntry(QStringRef(&text), out);
+}
+
+bool bInterpolationOfEntry(QStringRef const& text, Interpolation& out)
+{
     int value = 0;
     if (!bValueOfName(text, interpolationNames(), value))
         return false;
@@ -82,7 +103,7 @@ bool bStringToInterpolationType(QString const& text, Interpolation& out)
 bool bStringToExtrapolationType(QString const& text, Extrapolation& out)
 {
     int value = 0;
-    if (!bValueOfName(text, extrapolationNames(), value))
+    if (!bValueOfName(QStringRef(&text), extrapolationNames(), value))
         return false;
     out = static_cast<Extrapolation>(value);
     return true;

@@ -2,6 +2,7 @@
 #include "prm/curve/Interpolation.h"
 
 #include <QString>
+#include <QStringRef>
 
 namespace Prm {
 
@@ -18,5 +19,7 @@ QString qstrExtrapolationTypeString(Extrapolation extrapolation);
 /// case. On a text that names no kind they return false and leave `out` alone.
 bool bStringToInterpolationType(QString const& text, Interpolation& out);
 bool bStringToExtrapolationType(QString const& text, Extrapolation& out);
+/// `bStringToInterpolationType` on a part of a line, without copying it.
+bool bInterpolationOfEntry(QStringRef const& text, Interpolation& out);
 
 } // namespace Prm

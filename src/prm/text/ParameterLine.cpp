@@ -37,6 +37,8 @@ int iAsciiPrefix(QString const& line, QLatin1String word)
     return 1;
 }
 
+QLatin1Char const quote('"');
+
 // Index just behind the opening parenthesis of the inner call, or -1 when the line has none in front of
 // its first comma.
 int iArgumentStart(QString const& line)
@@ -45,7 +47,7 @@ int iArgumentStart(QString const& line)
     int start = -1;
     for (int i = 0; i < line.size(); ++i) {
         QChar const c = line.at(i);
-        if (c == QLatin1Char('"'))
+        if (c == quote)
             bQuoted = !bQuoted;
         else if (!bQuoted && c == QLatin1Char(','))
             break;
@@ -55,9 +57,87 @@ int iArgumentStart(QString const& line)
     return start;
 }
 
-QString qstrEntry(QString const& line, int from, int to)
+// End of the entry that starts at `from`: the comma behind it, or (with `bLast` set) the parenthesis that
+// closes the call or the end of the line. Each entry starts outside quotes and parentheses.
+int iEntryEnd(QString const& line, int from, bool& bLast)
 {
-    return line.midRef(from, to - from).trimmed().toString();
+    bool bQuoted = false;
+    int depth = 0;
+    bLast = true;
+    for (int i = from; i < line.size(); ++i) {
+        QChar const c = line.at(i);
+        if (c == quote) {
+            bQuoted = !bQuoted;
+        } else if (bQuoted) {
+            continue;
+        } else if (c == QLatin1Char('(')) {
+            ++depth;
+        } else if (c == QLatin1Char(')')) {
+            if (depth == 0)
+                return i;
+            --depth;
+        } else if (depth == 0 && c == QLatin1Char(',')) {
+            bLast = false;
+            return i;
+        }
+    }
+    return line.size();
+}
+
+QStringRef entryRef(QString const& line, int from, int to)
+{
+    return line.midRef(from, to - from).trimmed();
+}
+
+// Appends the entries from `from` to the end of the call; an empty last entry counts only behind others.
+void vAppendEntries(QString const& line, int from, KeyframeEntries& entries)
+{
+    for (int entryStart = from;;) {
+        bool bLast = false;
+        int const end = iEntryEnd(line, entryStart, bLast);
+        QStringRef const entry = entryRef(line, entryStart, end);
+        if (!bLast) {
+            entries.append(entry);
+            entryStart = end + 1;
+        } else {
+            if (!entry.isEmpty() || !entries.isEmpty())
+                entries.append(entry);
+            return;
+        }
+    }
+}
+
+int iSkipBlanks(QString const& line, int from)
+{
+    while (from < line.size() && line.at(from).isSpace())
+        ++from;
+    return from;
+}
+
+// A text value is written between double quotes with nothing escaped, and nothing behind it holds a
+// quote. When the quotes inside it split the value (an odd number of them, or a comma or parenthesis
+// between two of them), the value really runs from its opening quote to the last quote of the line. The
+// entries are taken that way when the rest still gives at least an interpolation; a line whose quotes
+// pair up around the value as written is split as before.
+void vJoinQuotedValue(QString const& line, int start, KeyframeEntries& entries)
+{
+    if (entries.size() < 2 || !entries.at(1).startsWith(quote))
+        return;
+    bool bLast = false;
+    int const comma = iEntryEnd(line, start, bLast);
+    int const open = iSkipBlanks(line, comma + 1);
+    int const close = line.lastIndexOf(quote);
+    if (bLast || close <= open)
+        return;
+    int const next = iSkipBlanks(line, close + 1);
+    if (next >= line.size() || line.at(next) != QLatin1Char(','))
+        return;
+    KeyframeEntries joined;
+    joined.append(entries.at(0));
+    joined.append(line.midRef(open, close - open + 1));
+    vAppendEntries(line, next + 1, joined);
+    if (joined.size() >= 3)
+        entries = joined;
 }
 
 } // namespace
@@ -93,41 +173,25 @@ bool bFlagOfLine(QString const& line)
     return qstrFieldText(line).toInt(nullptr, 10) != 0;
 }
 
-QStringList parseKeyframeDeclaration(QString line)
+void vKeyframeDeclarationEntries(QString const& line, KeyframeEntries& entries)
 {
-    QStringList entries;
+    entries.clear();
     int const start = iArgumentStart(line);
     if (start < 0)
-        return entries;
-    entries.reserve(6);
-    // Entries are cut out of the line whole: one allocation each on the load path.
-    int entryStart = start;
-    int end = line.size();
-    bool bQuoted = false;
-    int depth = 0;
-    for (int i = start; i < line.size(); ++i) {
-        QChar const c = line.at(i);
-        if (c == QLatin1Char('"')) {
-            bQuoted = !bQuoted;
-        } else if (bQuoted) {
-            continue;
-        } else if (c == QLatin1Char('(')) {
-            ++depth;
-        } else if (c == QLatin1Char(')')) {
-            if (depth == 0) {
-                end = i;
-                break;
-            }
-            --depth;
-        } else if (depth == 0 && c == QLatin1Char(',')) {
-            entries << qstrEntry(line, entryStart, i);
-            entryStart = i + 1;
-        }
-    }
-    QString const last = qstrEntry(line, entryStart, end);
-    if (!last.isEmpty() || !entries.isEmpty())
-        entries << last;
-    return entries;
+        return;
+    vAppendEntries(line, start, entries);
+    vJoinQuotedValue(line, start, entries);
+}
+
+QStringList parseKeyframeDeclaration(QString line)
+{
+    KeyframeEntries entries;
+    vKeyframeDeclarationEntries(line, entries);
+    QStringList list;
+    list.reserve(entries.size());
+    for (QStringRef const& entry : entries)
+        list << entry.toString();
+    return list;
 }
 
 } // namespace Prm

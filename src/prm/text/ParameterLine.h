@@ -3,6 +3,8 @@
 /// the entries of a key line. Stateless functions; none fails or throws.
 #include <QString>
 #include <QStringList>
+#include <QStringRef>
+#include <QVarLengthArray>
 
 namespace Prm {
 
@@ -37,9 +39,18 @@ bool bFlagOfLine(QString const& line);
 /// into the arguments of the inner call: entry 0 the time, entry 1 the value, then the interpolation name or
 /// the four Bezier numbers. The arguments start after the last opening parenthesis in front of the first
 /// comma and end at the parenthesis that closes that call (or at the end of the line). Commas and
-/// parentheses between double quotes do not count, so a quoted text value may hold them. Each entry is
-/// trimmed of blanks outside its quotes. A line without an opening parenthesis in front of its first comma
-/// gives no entries; no line makes this fail or throw.
+/// parentheses between double quotes do not count, so a quoted text value may hold them. A value entry that
+/// opens with a double quote but whose quotes do not pair up as written (a text holding `"`, or `a"b, c`)
+/// runs to the last double quote of the line, as long as at least one entry follows it; so every text
+/// without a line break comes back whole. Each entry is trimmed of blanks outside its quotes. A line
+/// without an opening parenthesis in front of its first comma gives no entries; no line makes this fail or
+/// throw.
 QStringList parseKeyframeDeclaration(QString line);
+
+/// The entries of a key line as `parseKeyframeDeclaration` gives them, as views into `line`.
+using KeyframeEntries = QVarLengthArray<QStringRef, 8>;
+
+/// The same entries without a copy each, for the reader: they live as long as `line` is unchanged.
+void vKeyframeDeclarationEntries(QString const& line, KeyframeEntries& entries);
 
 } // namespace Prm

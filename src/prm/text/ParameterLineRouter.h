@@ -3,39 +3,122 @@
 
 #include <QHash>
 #include <QString>
+#include <QVector>
+#include <array>
 
 namespace Prm {
 
-/// Chooses which of several parameters that share a script name takes a line, so that each gets back the
-/// lines it wrote.
+/// Where the lines of one script name may go: positions in a set's list of added parameters, of basic
+/// parameters and of child sets, each in list order.
+struct LineTargets {
+    QVector<int> parameters;
+    QVector<int> basicParameters;
+    QVector<int> childSets;
+};
+
+/// Finds the parameters and child sets a line names, and chooses which of several parameters that share
+/// a script name takes it, so that each gets back the lines it wrote.
 ///
-/// Each such parameter wrote one block of lines in field order (`TextField`). A line goes to the current
-/// block while it still fits that order, where only key lines may repeat; a field that arrives again or
-/// out of order closes the block and the line goes to the next parameter of that name. After the last
-/// one the choice starts again at the first, so that the same text can be read a second time. Names that
-/// only one parameter carries keep no state. Owned by value by its set; not copied with it.
+/// The name index is built from the set's three lists and rebuilt only when they may have changed: when a
+/// list's length changed, or when any parameter, basic parameter or set anywhere was created, destroyed
+/// or renamed since (`vNamesChanged`). A line naming something unknown never rebuilds it. A subclass that
+/// renames a basic parameter by writing its field directly calls `vNamesChanged` itself.
+///
+/// Each parameter sharing a name wrote one block of lines in field order (`TextField`). A line goes to the
+/// current block while it still fits that order, where only key lines may repeat; a field that arrives
+/// again or out of order closes the block and the line goes to the next parameter of that name. After the
+/// last one the choice starts again at the first, so that the same text can be read a second time. Names
+/// that only one parameter carries keep no state. Owned by value by its set; not copied with it.
 class ParameterLineRouter {
 public:
+    enum List { Parameters = 0, BasicParameters = 1, ChildSets = 2 };
+
     /// Index, among `candidateCount` parameters named `name` in set order, of the one that takes a line
-    /// of `field`. A line of unknown field goes to the current block and changes nothing.
+    /// of `field`. A line of unknown field goes to the current block and changes nothing. `name` may
+    /// borrow its characters (`QString::fromRawData`): nothing keeps it.
     int iChoose(QString const& name, int candidateCount, TextField field);
 
-    /// The same for child sets that share a script name: each wrote one block of lines in the order of
+    /// The same for child sets that share a script name (`name` may borrow
+    /// its characters as above): each wrote one block of lines in the order of
     /// its own text, and a line's place in that order is `position` (where the name after the set's
     /// name stands in the child, -1 when unknown), then `field`. A line that does not come after the
     /// previous one closes the block; a line of unknown place goes to the current block.
     int iChooseSet(QString const& name, int candidateCount, int position, TextField field);
 
+    /// The targets of `name` among lists of `counts` entries, where `nameOf(list, position)` gives an
+    /// entry's name (null for an entry that is gone). The reference lives until the next call. `name`
+    /// may borrow its characters: nothing keeps it.
+    template <class NameOf>
+    LineTargets const& targetsOf(QString const& name, std::array<int, 3> const& counts, NameOf nameOf);
+
+    /// Marks every name index of every set out of date. Thread-safe.
+    static void vNamesChanged();
+
 private:
+    static unsigned int uiNamesGeneration();
+    template <class NameOf>
+    bool bStillNamed(LineTargets const& targets, QString const& name, NameOf nameOf) const;
+
     struct Cursor {
         int iCandidate = 0;
         int iLastPosition = -1;
         TextField eLast = TextField::Unknown;
     };
     static int iAdvance(Cursor& cursor, int candidateCount, int position, TextField field);
+    /// The cursor of `name`, made with a deep copy of the name when there is none yet.
+    static Cursor& cursorOf(QHash<QString, Cursor>& cursors, QString const& name);
 
     QHash<QString, Cursor> cursors;
+    QHash<QString, LineTargets> nameIndex;
+    std::array<int, 3> indexedCounts = {{-1, -1, -1}};
+    unsigned int uiIndexedGeneration = 0;
     QHash<QString, Cursor> setCursors;
 };
+
+template <class NameOf>
+bool ParameterLineRouter::bStillNamed(LineTargets const& targets, QString const& name, NameOf nameOf) const
+{
+    QVector<int> const* lists[3] = {&targets.parameters, &targets.basicParameters, &targets.childSets};
+    for (int list = 0; list < 3; ++list) {
+        for (int position : *lists[list]) {
+            QString const* current = nameOf(list, position);
+            if (!current || *current != name)
+                return false;
+        }
+    }
+    return true;
+}
+
+template <class NameOf>
+LineTargets const& ParameterLineRouter::targetsOf(QString const& name, std::array<int, 3> const& counts,
+                                                  NameOf nameOf)
+{
+    static LineTargets const none;
+    unsigned int const generation = uiNamesGeneration();
+    if (counts == indexedCounts && generation == uiIndexedGeneration) {
+        auto const found = nameIndex.constFind(name);
+        if (found == nameIndex.constEnd())
+            return none;
+        // An entry replaced in place keeps the list's length: look before trusting the index.
+        if (bStillNamed(*found, name, nameOf))
+            return *found;
+    }
+    nameIndex.clear();
+    for (int list = 0; list < 3; ++list) {
+        for (int position = 0; position < counts[list]; ++position) {
+            QString const* current = nameOf(list, position);
+            if (!current)
+                continue;
+            LineTargets& targets = nameIndex[*current];
+            (list == Parameters ? targets.parameters
+                                : list == BasicParameters ? targets.basicParameters : targets.childSets)
+                .append(position);
+        }
+    }
+    indexedCounts = counts;
+    uiIndexedGeneration = generation;
+    auto const found = nameIndex.constFind(name);
+    return found == nameIndex.constEnd() ? none : *found;
+}
 
 } // namespace Prm

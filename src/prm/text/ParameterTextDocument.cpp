@@ -20,6 +20,16 @@ void vCollectParameters(ParameterSet const& set, QVector<ParameterWithoutType*>&
     }
 }
 
+// As trimmed().isEmpty(), without the copy.
+bool bBlank(QString const& line)
+{
+    for (QChar const c : line) {
+        if (!c.isSpace())
+            return false;
+    }
+    return true;
+}
+
 // True when the follower already follows the parameter its text names.
 bool bBoundAsNamed(ParameterWithoutType const& follower)
 {
@@ -61,7 +71,7 @@ int ParameterTextDocument::iRead(QTextStream& in)
     int taken = 0;
     QString line;
     for (int number = 1; in.readLineInto(&line); ++number) {
-        if (line.trimmed().isEmpty())
+        if (bBlank(line))
             continue;
         if (bReadLine(line)) {
             ++taken;
@@ -74,13 +84,18 @@ int ParameterTextDocument::iRead(QTextStream& in)
     return taken;
 }
 
-bool ParameterTextDocument::bReadLine(QString const& line)
+bool ParameterTextDocument::bReadLine(QString& line)
 {
     QString const& name = set.qstrScriptName();
-    if (!name.isEmpty() && line.size() > name.size() && line.startsWith(name)
-        && line.at(name.size()) == QLatin1Char('.'))
-        return set.bStreamIn(line.mid(name.size() + 1));
-    return set.bStreamIn(line);
+    if (name.isEmpty() || line.size() <= name.size() || !line.startsWith(name)
+        || line.at(name.size()) != QLatin1Char('.'))
+        return set.bStreamIn(line);
+    // The root's name comes off in place rather than in a copy; a line not taken gets it back.
+    line.remove(0, name.size() + 1);
+    if (set.bStreamIn(line))
+        return true;
+    line.prepend(name + QLatin1Char('.'));
+    return false;
 }
 
 void ParameterTextDocument::vBindMasters() const

@@ -38,7 +38,8 @@ public:
     QVector<UnreadLine> const& unreadLines() const { return unread; }
 
 private:
-    bool bReadLine(QString const& line);
+    /// Offers `line` to the set; it may be changed meanwhile and is as it was again when not taken.
+    bool bReadLine(QString& line);
     void vBindMasters() const;
 
     ParameterSet& set;

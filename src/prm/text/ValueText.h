@@ -5,8 +5,104 @@
 #include <QString>
 #include <QTextStream>
 #include <QVariant>
+#include <type_traits>
 
 namespace Prm {
+
+namespace NumberText {
+
+/// Whether `text` as a whole is a plain decimal number: an optional minus, digits, optionally a point and
+/// digits, optionally `e` or `E`, a sign and one or two digits.
+template <class Text>
+bool bPlainReal(Text const& text)
+{
+    int const n = text.size();
+    int i = (n > 0 && text.at(0) == QLatin1Char('-')) ? 1 : 0;
+    auto const digits = [&text, n, &i] {
+        int const start = i;
+        while (i < n && text.at(i) >= QLatin1Char('0') && text.at(i) <= QLatin1Char('9'))
+            ++i;
+        return i - start;
+    };
+    if (n > 40 || digits() == 0)
+        return false;
+    if (i < n && text.at(i) == QLatin1Char('.') && (++i, digits() == 0))
+        return false;
+    if (i < n && (text.at(i) == QLatin1Char('e') || text.at(i) == QLatin1Char('E'))) {
+        ++i;
+        if (i < n && (text.at(i) == QLatin1Char('+') || text.at(i) == QLatin1Char('-')))
+            ++i;
+        int const exponentDigits = digits();
+        if (exponentDigits == 0 || exponentDigits > 2)
+            return false;
+    }
+    return i == n;
+}
+
+/// A decimal integer without a leading zero (the stream would read that as octal), of at most nine
+/// digits, with a minus only when `bSigned`.
+template <class Text>
+bool bPlainInteger(Text const& text, bool bSigned)
+{
+    int const start = (bSigned && text.startsWith(QChar(QLatin1Char('-')))) ? 1 : 0;
+    int const digitCount = text.size() - start;
+    if (digitCount < 1 || digitCount > 9 || (text.at(start) == QLatin1Char('0') && digitCount > 1))
+        return false;
+    for (int i = start; i < text.size(); ++i) {
+        if (text.at(i) < QLatin1Char('0') || text.at(i) > QLatin1Char('9'))
+            return false;
+    }
+    return true;
+}
+
+/// Reads `text` (a QString or a QStringRef) without building a stream when it is a number whose every reading agrees: the stream's
+/// readers and QString's conversions both round correctly in the C locale. False, `value` untouched, for
+/// any other text, which the caller reads through a stream as before.
+template <class Text>
+bool bReadPlain(Text const& text, double& value)
+{
+    if (!bPlainReal(text))
+        return false;
+    value = text.toDouble();
+    return true;
+}
+
+/// As the stream: the double, narrowed; only within the float range.
+template <class Text>
+bool bReadPlain(Text const& text, float& value)
+{
+    double wide = 0.0;
+    if (!bReadPlain(text, wide) || wide > 3.4028234663852886e38 || wide < -3.4028234663852886e38)
+        return false;
+    value = static_cast<float>(wide);
+    return true;
+}
+
+template <class Text>
+bool bReadPlain(Text const& text, int& value)
+{
+    if (!bPlainInteger(text, true))
+        return false;
+    value = text.toInt();
+    return true;
+}
+
+template <class Text>
+bool bReadPlain(Text const& text, unsigned int& value)
+{
+    if (!bPlainInteger(text, false))
+        return false;
+    value = text.toUInt();
+    return true;
+}
+
+template <class Text, class T>
+bool bReadPlain(Text const&, T&)
+{
+    return false;
+}
+
+} // namespace NumberText
 
 /// How one value of a static parameter prints and parses.
 ///
@@ -20,8 +116,11 @@ struct StaticValueText {
     /// reader leaves, starting from the zero value.
     static T tRead(QString& text)
     {
-        QTextStream in(&text, QIODevice::ReadWrite);
         T value{};
+        // Building a stream costs more than the rest of a line's reading: plain numbers skip it.
+        if (NumberText::bReadPlain(text, value))
+            return value;
+        QTextStream in(&text, QIODevice::ReadWrite);
         in >> value;
         return value;
     }
@@ -53,6 +152,12 @@ struct ValueText : StaticValueText<T> {
     /// The line form through a fresh string stream at default settings (six significant digits).
     static QString qstrWritten(T const& value)
     {
+        // A fresh stream prints numbers as QString::number does (six significant digits for reals);
+        // building the stream would cost more than the rest of a key line.
+        if constexpr (std::is_same<T, double>::value || std::is_same<T, float>::value)
+            return QString::number(static_cast<double>(value), 'g', 6);
+        if constexpr (std::is_same<T, int>::value || std::is_same<T, unsigned int>::value)
+            return QString::number(value);
         QString text;
         QTextStream out(&text, QIODevice::WriteOnly);
         StaticValueText<T>::vWrite(out, value);

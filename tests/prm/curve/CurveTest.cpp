@@ -246,4 +246,22 @@ TEST(Curve, ScalingByAFactor)
     u.vSetValue(7u, 0.0f);
     u *= 1.5;
     EXPECT_EQ(u.keyframeValue(0), 10u);
+
+    // A key at a NaN time (a damaged text) cannot be set by its time: it keeps its value, the loop ends,
+    // and the keys around it, infinite times included, are scaled.
+    NumericParameter<float> g(true, "G", 0.0f, -100.0f, 100.0f, InterpolationLinear, ExtrapolationHold);
+    float const inf = std::numeric_limits<float>::infinity();
+    for (char const* line : {"keyframes.append( Key( 1, 2, Linear ) )", "keyframes.append( Key( nan, 3, Linear ) )",
+                             "keyframes.append( Key( 5, 4, Linear ) )", "keyframes.append( Key( inf, 5, Linear ) )"})
+        EXPECT_TRUE(g.bStreamIn(line));
+    ASSERT_EQ(g.keyframeCount(), 4u);
+    g *= 2.0;
+    ASSERT_EQ(g.keyframeCount(), 4u);
+    EXPECT_TRUE(std::isnan(g.keyframeTime(1)));
+    EXPECT_EQ(g.keyframeValue(1), 3.0f);
+    EXPECT_EQ(g.keyframeValue(0), 4.0f);
+    EXPECT_EQ(g.keyframeTime(2), 5.0f);
+    EXPECT_EQ(g.keyframeValue(2), 8.0f);
+    EXPECT_EQ(g.keyframeTime(3), inf);
+    EXPECT_EQ(g.keyframeValue(3), 10.0f);
 }

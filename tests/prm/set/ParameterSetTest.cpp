@@ -45,6 +45,7 @@ public:
     Prm::NumericParameter<double> first;
     Prm::NumericParameter<double> second;
     Prm::NumericParameter<double> follower;
+    void vAddBasic(Prm::BasicParameter* parameter) { basicParameters.append(parameter); }
     int frames = 12;
     ChildSet roi;
 };
@@ -249,4 +250,40 @@ TEST(ParameterTextSet, NumericFailedKeyLineIsRepaired)
     set.gain.vSetInterpolation(Prm::InterpolationBezier, 1.0f);
     set.gain.vSetValue(5.0, 10.0f);
     EXPECT_NE(set.gain.interpolationData(1).dOutTime, 0.0) << "not streaming any more";
+}
+
+TEST(ParameterTextSet, NameIndexFollowsRenamesAndAdditionsAfterUnknownLines)
+{
+    RootSet set;
+    EXPECT_FALSE(set.bStreamIn("Renamed.value=1")); // builds the index; the name is unknown
+    EXPECT_FALSE(set.bStreamIn("Late.value=1"));
+    EXPECT_FALSE(set.bStreamIn("Zone.Width.value=1"));
+
+    set.gain.setScriptName("Renamed");
+    Prm::NumericParameter<double> copyNamedLate(true, "Late", 0.0, -9.0, 9.0, Prm::InterpolationLinear,
+                                                Prm::ExtrapolationHold);
+    set.follower = copyNamedLate; // assignment renames too
+    set.roi.setScriptName("Zone");
+    EXPECT_TRUE(set.bStreamIn("Renamed.value=4"));
+    EXPECT_EQ(set.gain.staticValue(), 4.0);
+    EXPECT_FALSE(set.bStreamIn("Gain.value=5")) << "the old name is gone";
+    EXPECT_TRUE(set.bStreamIn("Late.value=6"));
+    EXPECT_EQ(set.follower.staticValue(), 6.0);
+    EXPECT_TRUE(set.bStreamIn("Zone.Width.value=7"));
+    EXPECT_EQ(set.roi.width.staticValue(), 7.0);
+
+    // A parameter added or destroyed after the index was built.
+    int extra = 0;
+    {
+        Prm::NumericParameter<double> added(true, "Added", 0.0, -9.0, 9.0, Prm::InterpolationLinear,
+                                            Prm::ExtrapolationHold);
+        set.addParameter(&added);
+        EXPECT_TRUE(set.bStreamIn("Added.value=2"));
+        EXPECT_EQ(added.staticValue(), 2.0);
+    }
+    EXPECT_FALSE(set.bStreamIn("Added.value=3")) << "a destroyed parameter takes nothing";
+    EXPECT_FALSE(set.bStreamIn("Extra.value=8"));
+    set.vAddBasic(new Prm::VirtualParameter<int>("Extra", &extra));
+    EXPECT_TRUE(set.bStreamIn("Extra.value=8"));
+    EXPECT_EQ(extra, 8);
 }

@@ -75,6 +75,13 @@ TEST(ParameterTextKeyframeDeclaration, SplitsTheInnerCallHonouringQuotes)
         // Commas and parentheses inside quotes belong to the value, and the quotes stay for the reader.
         {"keyframes.append( Key( 4, \"a, (b)\", Step ) )", {"4", "\"a, (b)\"", "Step"}},
         {"keyframes.append( Key( 1, 2", {"1", "2"}}, // an unclosed call still gives its entries
+        // Quotes that do not pair up around a value as written: the value runs to the line's last quote.
+        {"keyframes.append( Key( 1, \"a\"b\", Step ) )", {"1", "\"a\"b\"", "Step"}},
+        {"keyframes.append( Key( 1, \"say \"hi, there\"\", Step ) )", {"1", "\"say \"hi, there\"\"", "Step"}},
+        {"keyframes.append( BezierKey( 1, \"\"\", 1, 2, 3, 4 ) )", {"1", "\"\"\"", "1", "2", "3", "4"}},
+        // With nothing but a parenthesis behind the last quote, the line splits as it always did.
+        {"keyframes.append( Key( 1, \"a\", \"Step\" ) )", {"1", "\"a\"", "\"Step\""}},
+        {"keyframes.append( Key( 1, \"\"\" ) )", {"1", "\"\"\" ) )"}},
         {"keyframes.append( Key( 1 ) )", {"1"}},
         {"keyframes", {}},
     };

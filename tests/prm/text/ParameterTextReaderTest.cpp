@@ -117,6 +117,30 @@ TEST(ParameterTextReader, TextValuesFiltersAndQuotes)
     EXPECT_EQ(p.qstrMasterParameterId(), "Core.a");
 }
 
+TEST(ParameterTextReader, EveryTextWithoutALineBreakRoundTripsThroughAKeyLine)
+{
+    LogCapture log;
+    Prm::Parameter<QString> written(true, "Url", QString(), Prm::InterpolationStep, Prm::ExtrapolationHold);
+    QStringList const texts = {"\"", "\"\"", "a\"b", "a, \"b\"", ")(", "%1 and %2", "say \"hi, there\"",
+                               "C:/shots/it's \"final.exr", "\", linear ) )", " padded ", "", "plain"};
+    for (int i = 0; i < texts.size(); ++i)
+        written.vSetValue(texts.at(i), float(i));
+    Prm::Parameter<QString> read(true, "Url", QString(), Prm::InterpolationStep, Prm::ExtrapolationHold);
+    for (int i = 0; i < texts.size(); ++i)
+        EXPECT_TRUE(read.streamInValue(written.indexSuffixString(i), Filter())) << written.indexSuffixString(i).toStdString();
+    EXPECT_EQ(keysOf(read), keysOf(written));
+    EXPECT_TRUE(log.lines.empty());
+
+    // Lines that really lack entries still fail with their own words.
+    EXPECT_FALSE(read.streamInValue("keyframes.append( Key( 1, \"\"\" ) )", Filter()));
+    EXPECT_FALSE(read.streamInValue("keyframes.append( BezierKey( 1, \"a\"b\", 2 ) )", Filter()));
+    ASSERT_EQ(log.lines.size(), 2u);
+    EXPECT_EQ(log.lines[0], "Parameter::streamInValue(): failed to parse Key() block: "
+                            "'keyframes.append( Key( 1, \"\"\" ) )'");
+    EXPECT_EQ(log.lines[1], "Parameter::streamInValue(): failed to parse BezierKey() block: "
+                            "'keyframes.append( BezierKey( 1, \"a\"b\", 2 ) )'");
+}
+
 TEST(ParameterTextReader, PlainParameterStaysStreamingAfterAFailedKeyLine)
 {
     LogCapture log;
