@@ -1,3 +1,4 @@
+#include "prm/Fixtures.h"
 #include "bsc/Command.h"
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
@@ -6,14 +7,9 @@
 
 namespace {
 
-using Curve = Prm::NumericParameter<double>;
-
 Curve curve(char const* name, double first, double last)
 {
-    Curve parameter(true, name, 0.0, -100.0, 100.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
-    parameter.vSetValue(first, 0.0f);
-    parameter.vSetValue(last, 10.0f);
-    return parameter;
+    return curveOf({{0.0f, first}, {10.0f, last}}, name);
 }
 
 } // namespace

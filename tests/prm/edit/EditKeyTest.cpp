@@ -8,12 +8,9 @@
 
 namespace {
 
-using Curve = Prm::NumericParameter<double>;
-
 Curve curve()
 {
-    Curve parameter(true, "Curve", 0.5, -100.0, 100.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
-    return withKeys(parameter, {{0.0f, 0.0}, {10.0f, 10.0}, {20.0f, 0.0}});
+    return curveOf({{0.0f, 0.0}, {10.0f, 10.0}, {20.0f, 0.0}});
 }
 
 } // namespace
@@ -39,7 +36,7 @@ TEST(EditKey, AddKeyTakesTheCurveValueAndSkipsAnExistingKey)
 TEST(EditKey, FollowerGetsNoKeyButUndoStillDeletes)
 {
     Curve master = curve();
-    Curve slave(true, "Slave", 0.0, -100.0, 100.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
+    Curve slave = curveOf({}, "Slave");
     ASSERT_TRUE(master.bAddConstrainedParameter(&slave));
     Bsc::CompositeCommand composite;
     slave.vAddKeyframeCommand(5.0f, composite);
@@ -102,7 +99,7 @@ TEST(EditKey, DeleteAllGoesKeyByKeyAndLosesTheStaticValue)
     EXPECT_EQ(parameter.keyframeCount(), 1u);
     EXPECT_TRUE(parameter.bKeyframeAt(30.0f));
 
-    Curve empty(true, "Empty", 0.5, -1.0, 1.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
+    Curve empty = curveOf({});
     Bsc::CompositeCommand emptyComposite;
     empty.vDeleteAllKeyframesCommand(emptyComposite);
     emptyComposite.doIt();
@@ -142,7 +139,7 @@ TEST(EditKey, ResetEditNeverChangesTheValue)
     EXPECT_EQ(flat.staticValue(), 0.5);
 
     // Keyframed without keys: the undo writes the old value at time 0, which makes a key there.
-    Curve unkeyed(true, "Unkeyed", 0.5, -1.0, 1.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
+    Curve unkeyed = curveOf({});
     Bsc::CompositeCommand unkeyedReset;
     unkeyed.vResetCommand(2.0f, unkeyedReset);
     unkeyedReset.doIt();

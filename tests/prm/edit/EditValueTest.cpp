@@ -5,33 +5,22 @@
 
 #include <tuple>
 
-namespace {
-
-using Linear = Prm::NumericParameter<double>;
-
-Linear keyed(Keys<Linear> const& keys)
-{
-    Linear parameter(true, "Gain", 0.5, -100.0, 100.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
-    return withKeys(parameter, keys);
-}
-
-} // namespace
 
 TEST(EditValue, NewKeyExistingKeyAndStaticValueComeBack)
 {
-    Linear parameter = keyed({{0.0f, 0.0}, {10.0f, 10.0}});
+    Curve parameter = curveOf({{0.0f, 0.0}, {10.0f, 10.0}});
     Bsc::CompositeCommand composite;
     EXPECT_EQ(&parameter.vSetValueCommand(50.0, 5.0f, composite), &composite);
     parameter.vSetValueCommand(7.0, 10.0f, composite);
     EXPECT_EQ(parameter.keyframeCount(), 2u); // nothing happens when the edit is made
     for (int pass = 0; pass < 2; ++pass) {
         composite.doIt();
-        EXPECT_EQ(keysOf(parameter), (Keys<Linear>{{0.0f, 0.0}, {5.0f, 50.0}, {10.0f, 7.0}}));
+        EXPECT_EQ(keysOf(parameter), (Keys<Curve>{{0.0f, 0.0}, {5.0f, 50.0}, {10.0f, 7.0}}));
         composite.undoIt();
-        EXPECT_EQ(keysOf(parameter), (Keys<Linear>{{0.0f, 0.0}, {10.0f, 10.0}}));
+        EXPECT_EQ(keysOf(parameter), (Keys<Curve>{{0.0f, 0.0}, {10.0f, 10.0}}));
     }
 
-    Linear flat(false, "Flat", 0.25, 0.0, 1.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
+    Curve flat(false, "Flat", 0.25, 0.0, 1.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
     Prm::Parameter<QString> name(true, "Name", QString("static"), Prm::InterpolationStep, Prm::ExtrapolationHold);
     Bsc::CompositeCommand others;
     flat.vSetValueCommand(0.75, 3.0f, others);
@@ -51,7 +40,7 @@ TEST(EditValue, NewKeyExistingKeyAndStaticValueComeBack)
 
 TEST(EditValue, RecordsWhenRunNotWhenMade)
 {
-    Linear parameter = keyed({});
+    Curve parameter = curveOf({});
     parameter.vSetValue(1.0, 4.0f);
     Bsc::CompositeCommand composite;
     parameter.vSetValueCommand(2.0, 4.0f, composite);
@@ -93,7 +82,7 @@ TEST(EditValue, ValueIsLimitedWhenTheEditRuns)
 
 TEST(EditValue, InterpolationAndExtrapolationEditsUndo)
 {
-    Linear parameter = keyed({{0.0f, 0.0}, {10.0f, 10.0}, {20.0f, 0.0}});
+    Curve parameter = curveOf({{0.0f, 0.0}, {10.0f, 10.0}, {20.0f, 0.0}});
     Bsc::CompositeCommand composite;
     parameter.vSetInterpolationCommand(Prm::InterpolationStep, 10.0f, composite);
     Prm::IType bezier = parameter.interpolationData(0);
