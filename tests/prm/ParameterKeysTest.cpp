@@ -242,7 +242,7 @@ TEST(ParameterKeys, DeletionAndReset)
     EXPECT_EQ(rec.events.back(), ChangeRecorder::Event(Change::ParameterReset, 0));
 }
 
-TEST(ParameterKeys, MoveStayingAndCrossing)
+TEST(ParameterKeys, MoveStayingAndCrossingAndReadsAtSharedTimes)
 {
     Probe p = linearCurve(); // 0:0, 10:10, 20:30
     ChangeRecorder rec(p);
@@ -270,24 +270,17 @@ TEST(ParameterKeys, MoveStayingAndCrossing)
     EXPECT_EQ(r.moveAndChangeKeyframe(7.0, 0.0f, 20.0f), 1);
     EXPECT_EQ(keysOf(r), (Keys<Probe>{{10.0f, 10.0}, {20.0f, 7.0}}));
 
+    // Reads at a key return its stored value; of two keys at one time the halving search meets the earlier.
+    Probe t(0.0, -1000.0, 1000.0, InterpolationLinear, ExtrapolationHold);
+    withKeys(t, {{0.0f, 1.0}, {10.0f, 2.0}, {20.0f, 3.0}, {25.0f, 4.0}, {30.0f, 5.0}});
+    ASSERT_EQ(t.moveAndChangeKeyframe(9.0, 25.0f, 20.0f), 3);
+    expectReads(t, {{10.0f, 2.0}, {15.0f, 2.5}, {20.0f, 3.0}, {25.0f, 9.0 + (5.0 - 9.0) / 2.0}});
+
     // A caller's own block survives the move.
     Probe s = linearCurve();
     s.blockSignals(true);
     s.moveAndChangeKeyframe(1.0, 0.0f, 15.0f);
     EXPECT_TRUE(s.signalsBlocked());
-}
-
-TEST(ParameterKeys, ReadsAtKeysReturnStoredValuesEvenWhereKeysShareATime)
-{
-    Probe p(0.0, -1000.0, 1000.0, InterpolationLinear, ExtrapolationHold);
-    withKeys(p, {{0.0f, 1.0}, {10.0f, 2.0}, {20.0f, 3.0}, {25.0f, 4.0}, {30.0f, 5.0}});
-    EXPECT_EQ(p.value(10.0f, nullptr), 2.0);
-    EXPECT_DOUBLE_EQ(p.value(15.0f, nullptr), 2.5);
-    EXPECT_DOUBLE_EQ(p.value(27.5f, nullptr), 4.5);
-    // Two keys at 20: the halving search meets key 2 first.
-    ASSERT_EQ(p.moveAndChangeKeyframe(9.0, 25.0f, 20.0f), 3);
-    EXPECT_EQ(p.value(20.0f, nullptr), 3.0);
-    EXPECT_DOUBLE_EQ(p.value(25.0f, nullptr), 9.0 + (5.0 - 9.0) / 2.0);
 }
 
 TEST(ParameterKeys, AssignmentAndCopyOfKeyframeData)

@@ -14,46 +14,40 @@ Curve curve(char const* name, double first, double last)
 
 } // namespace
 
-TEST(EditConstraint, FollowerGetsItsOwnKeysBackOnUndo)
+TEST(EditConstraint, FollowersGetTheirOwnKeysAndStaticValueBackOnUndo)
 {
     Curve master = curve("Master", 0.0, 10.0);
     Curve slave = curve("Slave", 50.0, 60.0);
     slave.vSetExtrapolationAfter(Prm::ExtrapolationLinear);
 
+    Prm::Parameter<int> plainMaster(true, "Master", 1, Prm::InterpolationStep, Prm::ExtrapolationHold);
+    Prm::Parameter<int> plain(false, "Plain", 7, Prm::InterpolationStep, Prm::ExtrapolationHold);
+
     Bsc::CompositeCommand composite;
     EXPECT_EQ(&master.bAddConstrainedParameterCommand(&slave, composite), &composite);
+    plainMaster.bAddConstrainedParameterCommand(&plain, composite);
     EXPECT_EQ(slave.master(), nullptr);
     composite.doIt();
     EXPECT_EQ(slave.master(), &master);
     EXPECT_EQ(slave.value(5.0f, nullptr), 5.0);
+    EXPECT_EQ(plain.value(0.0f, nullptr), 1);
 
     // Writes while constrained land in the slave's own store, and undo replaces them.
     slave.vSetValue(99.0, 5.0f);
     EXPECT_EQ(slave.value(5.0f, nullptr), 5.0);
+    plain.vSetValue(3, 0.0f);
     composite.undoIt();
     EXPECT_EQ(slave.master(), nullptr);
     ASSERT_EQ(slave.keyframeCount(), 2u);
     EXPECT_EQ(slave.value(5.0f, nullptr), 55.0);
     EXPECT_EQ(slave.extrapolationAfter(), Prm::ExtrapolationLinear);
+    EXPECT_EQ(plain.value(0.0f, nullptr), 7); // and a static follower its static value
+    EXPECT_FALSE(plain.isKeyframed());
 
     composite.doIt();
     EXPECT_EQ(slave.master(), &master);
     composite.undoIt();
     EXPECT_EQ(slave.value(5.0f, nullptr), 55.0);
-}
-
-TEST(EditConstraint, PlainFollowerGetsItsStaticValueBack)
-{
-    Prm::Parameter<int> master(true, "Master", 1, Prm::InterpolationStep, Prm::ExtrapolationHold);
-    Prm::Parameter<int> slave(false, "Slave", 7, Prm::InterpolationStep, Prm::ExtrapolationHold);
-    Bsc::CompositeCommand composite;
-    master.bAddConstrainedParameterCommand(&slave, composite);
-    composite.doIt();
-    EXPECT_EQ(slave.value(0.0f, nullptr), 1);
-    slave.vSetValue(3, 0.0f);
-    composite.undoIt();
-    EXPECT_EQ(slave.value(0.0f, nullptr), 7);
-    EXPECT_FALSE(slave.isKeyframed());
 }
 
 TEST(EditConstraint, RefusedConstraintsAndCyclesLeaveEverythingAlone)
