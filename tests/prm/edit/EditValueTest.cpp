@@ -67,17 +67,14 @@ TEST(EditValue, ValueIsLimitedWhenTheEditRuns)
     count.vSetDoubleValueCommand(7.9, 2.0f, composite);
     count.vSetDoubleValueCommand(3.9, 3.0f, composite);
     count.vSetDoubleValueCommand(-2.5, 4.0f, composite);
-    composite.doIt();
-    EXPECT_EQ(keysOf(count), (Keys<decltype(count)>{{1.0f, 5}, {2.0f, 5}, {3.0f, 3}, {4.0f, 0}}));
-    composite.undoIt();
-    EXPECT_EQ(count.keyframeCount(), 0u);
-
     Prm::NumericParameter<bool> flag(true, "Flag", false, false, true, Prm::InterpolationStep,
                                      Prm::ExtrapolationHold);
-    Bsc::CompositeCommand flagComposite;
-    flag.vSetDoubleValueCommand(0.5, 0.0f, flagComposite);
-    flagComposite.doIt();
+    flag.vSetDoubleValueCommand(0.5, 0.0f, composite);
+    composite.doIt();
+    EXPECT_EQ(keysOf(count), (Keys<decltype(count)>{{1.0f, 5}, {2.0f, 5}, {3.0f, 3}, {4.0f, 0}}));
     EXPECT_TRUE(flag.value(0.0f, nullptr));
+    composite.undoIt();
+    EXPECT_EQ(count.keyframeCount(), 0u);
 }
 
 TEST(EditValue, InterpolationAndExtrapolationEditsUndo)
