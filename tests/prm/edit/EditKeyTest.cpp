@@ -102,43 +102,31 @@ TEST(EditKey, DeleteAllGoesKeyByKeyAndLosesTheStaticValue)
 TEST(EditKey, ResetEditNeverChangesTheValue)
 {
     Curve withKey = curve();
-    Bsc::CompositeCommand atKey;
-    withKey.vResetCommand(10.0f, atKey);
-    atKey.doIt();
-    atKey.undoIt();
+    Curve between = curve();
+    Curve flat(false, "Flat", 0.5, -1.0, 1.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
+    Curve unkeyed = curveOf({});
+    Bsc::CompositeCommand composite;
+    withKey.vResetCommand(10.0f, composite);
+    between.vResetCommand(5.0f, composite);
+    flat.vResetCommand(2.0f, composite);
+    unkeyed.vResetCommand(2.0f, composite);
+    composite.doIt();
+    EXPECT_EQ(between.keyframeCount(), 3u);
+    EXPECT_EQ(flat.staticValue(), 0.5);
+    EXPECT_EQ(unkeyed.keyframeCount(), 0u);
+
+    flat.vSetValue(0.25, 0.0f);
+    composite.undoIt();
     EXPECT_EQ(withKey.keyframeCount(), 3u);
     EXPECT_EQ(withKey.value(10.0f, nullptr), 10.0);
-
-    Curve between = curve();
-    Bsc::CompositeCommand betweenKeys;
-    between.vResetCommand(5.0f, betweenKeys);
-    betweenKeys.doIt();
-    EXPECT_EQ(between.keyframeCount(), 3u);
-    betweenKeys.undoIt();
     ASSERT_EQ(between.keyframeCount(), 4u);
     EXPECT_EQ(between.keyframeValue(1), 5.0);
-    betweenKeys.doIt(); // removes the key its undo added
-    EXPECT_EQ(between.keyframeCount(), 3u);
-
-    Curve flat(false, "Flat", 0.5, -1.0, 1.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
-    Bsc::CompositeCommand noKeys;
-    flat.vResetCommand(2.0f, noKeys);
-    noKeys.doIt();
     EXPECT_EQ(flat.staticValue(), 0.5);
-    flat.vSetValue(0.25, 0.0f);
-    noKeys.undoIt();
-    EXPECT_EQ(flat.staticValue(), 0.5);
-
     // Keyframed without keys: the undo writes the old value at time 0, which makes a key there.
-    Curve unkeyed = curveOf({});
-    Bsc::CompositeCommand unkeyedReset;
-    unkeyed.vResetCommand(2.0f, unkeyedReset);
-    unkeyedReset.doIt();
-    EXPECT_EQ(unkeyed.keyframeCount(), 0u);
-    unkeyedReset.undoIt();
-    ASSERT_EQ(unkeyed.keyframeCount(), 1u);
-    EXPECT_EQ(unkeyed.keyframeTime(0), 0.0f);
-    EXPECT_EQ(unkeyed.keyframeValue(0), 0.5);
+    EXPECT_EQ(keysOf(unkeyed), (Keys<Curve>{{0.0f, 0.5}}));
+
+    composite.doIt(); // removes the key its undo added
+    EXPECT_EQ(between.keyframeCount(), 3u);
 }
 
 TEST(EditKey, MoveIsOneShotAndReadsTheOldValueWhenMade)
