@@ -3,6 +3,7 @@
 #include "prm/Parameter.h"
 
 #include <cmath>
+#include <tuple>
 
 using namespace Prm;
 using Change = ParameterChange;
@@ -128,10 +129,8 @@ TEST(ParameterKeys, AppendedKeyReinitialisesTheFormerLastRecordExceptWhileStream
     p.vSetValue(0.0, 0.0f);
     EXPECT_EQ(p.record(0).dOutTime, 0.0);
     p.vSetValue(10.0, 10.0f);
-    EXPECT_DOUBLE_EQ(p.record(0).dOutTime, 1.0);
-    EXPECT_DOUBLE_EQ(p.record(0).dOutValue, 1.0);
-    EXPECT_DOUBLE_EQ(p.record(0).dInTime, -1.0);
-    EXPECT_DOUBLE_EQ(p.record(0).dInValue, -1.0);
+    IType const r = p.record(0);
+    EXPECT_EQ(std::make_tuple(r.dOutTime, r.dOutValue, r.dInTime, r.dInValue), std::make_tuple(1.0, 1.0, -1.0, -1.0));
     EXPECT_EQ(p.record(1).dOutTime, 0.0); // the new last record starts with zero handles
 
     p.setStreamingIn(true);
