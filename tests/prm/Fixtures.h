@@ -1,5 +1,6 @@
 #pragma once
 #include "bsc/Logger.h"
+#include "prm/NumericParameter.h"
 #include "prm/ParameterWithoutType.h"
 
 #include <gtest/gtest.h>
@@ -79,4 +80,13 @@ QString qstrStreamed(P const& parameter, QString const& prefix, bool bQualify = 
     EXPECT_TRUE(parameter.bStreamOut(out, prefix, bQualify));
     out.flush();
     return text;
+}
+
+using Curve = Prm::NumericParameter<double>;
+
+/// A linear, held double curve limited to [-100, 100] with one key per row.
+inline Curve curveOf(Keys<Curve> const& keys, char const* name = "Curve")
+{
+    Curve parameter(true, name, 0.5, -100.0, 100.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
+    return withKeys(parameter, keys);
 }

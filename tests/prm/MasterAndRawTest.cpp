@@ -148,7 +148,6 @@ TEST(MasterAndRaw, SetRegistersNamesAndOwnsBasicParametersOnRequest)
         EXPECT_EQ(set.findParameter(QStringLiteral("Label")), &set.label);
         EXPECT_EQ(set.findParameter(QStringLiteral("None")), nullptr);
         EXPECT_EQ(set.gain.extendedName(), "Core.Gain");
-        EXPECT_EQ(set.qstrScriptName(), "Core");
         set.forEachParameter([](ParameterWithoutType* p) { p->hide(true); }, false);
         EXPECT_TRUE(set.gain.isHidden());
         EXPECT_TRUE(set.label.isHidden());

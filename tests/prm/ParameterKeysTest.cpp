@@ -3,6 +3,7 @@
 #include "prm/Parameter.h"
 
 #include <cmath>
+#include <tuple>
 
 using namespace Prm;
 using Change = ParameterChange;
@@ -31,26 +32,20 @@ Probe linearCurve()
 
 } // namespace
 
-TEST(ParameterKeys, ConstructorsSetNamesValuesAndRules)
+TEST(ParameterKeys, ConstructorsLeaveRulesUnsetAndCopiesKeepTheHiddenFlag)
 {
     Parameter<int> two(true, "Gain");
-    EXPECT_EQ(two.qstrScriptName(), "Gain");
     EXPECT_EQ(two.qstrDisplayName(), "Gain");
-    EXPECT_EQ(two.staticValue(), 0);
     EXPECT_EQ(two.extrapolationBefore(), ExtrapolationUnset);
     EXPECT_EQ(two.interpolation(0.0f), InterpolationUnset);
-    EXPECT_FALSE(two.isHidden());
-
-    Parameter<float> five(false, "Blur", 2.5f, InterpolationLinear, ExtrapolationLinear);
-    EXPECT_EQ(five.defaultValue(), 2.5f);
-    EXPECT_FALSE(five.isKeyframed());
-    EXPECT_EQ(five.extrapolationAfter(), ExtrapolationHold); // not keyframed
 
     Parameter<bool> none;
     EXPECT_TRUE(none.isKeyframed());
     EXPECT_EQ(none.qstrDisplayName(), "Not Set");
     EXPECT_TRUE(none.qstrScriptName().isEmpty());
 
+    Parameter<float> five(false, "Blur", 2.5f, InterpolationLinear, ExtrapolationLinear);
+    EXPECT_EQ(five.extrapolationAfter(), ExtrapolationHold); // not keyframed
     five.hide(true);
     Parameter<float> copy(five);
     EXPECT_TRUE(copy.isHidden());
@@ -134,10 +129,8 @@ TEST(ParameterKeys, AppendedKeyReinitialisesTheFormerLastRecordExceptWhileStream
     p.vSetValue(0.0, 0.0f);
     EXPECT_EQ(p.record(0).dOutTime, 0.0);
     p.vSetValue(10.0, 10.0f);
-    EXPECT_DOUBLE_EQ(p.record(0).dOutTime, 1.0);
-    EXPECT_DOUBLE_EQ(p.record(0).dOutValue, 1.0);
-    EXPECT_DOUBLE_EQ(p.record(0).dInTime, -1.0);
-    EXPECT_DOUBLE_EQ(p.record(0).dInValue, -1.0);
+    IType const r = p.record(0);
+    EXPECT_EQ(std::make_tuple(r.dOutTime, r.dOutValue, r.dInTime, r.dInValue), std::make_tuple(1.0, 1.0, -1.0, -1.0));
     EXPECT_EQ(p.record(1).dOutTime, 0.0); // the new last record starts with zero handles
 
     p.setStreamingIn(true);
@@ -248,7 +241,7 @@ TEST(ParameterKeys, DeletionAndReset)
     EXPECT_EQ(rec.events.back(), ChangeRecorder::Event(Change::ParameterReset, 0));
 }
 
-TEST(ParameterKeys, MoveStayingAndCrossing)
+TEST(ParameterKeys, MoveStayingAndCrossingAndReadsAtSharedTimes)
 {
     Probe p = linearCurve(); // 0:0, 10:10, 20:30
     ChangeRecorder rec(p);
@@ -276,24 +269,17 @@ TEST(ParameterKeys, MoveStayingAndCrossing)
     EXPECT_EQ(r.moveAndChangeKeyframe(7.0, 0.0f, 20.0f), 1);
     EXPECT_EQ(keysOf(r), (Keys<Probe>{{10.0f, 10.0}, {20.0f, 7.0}}));
 
+    // Reads at a key return its stored value; of two keys at one time the halving search meets the earlier.
+    Probe t(0.0, -1000.0, 1000.0, InterpolationLinear, ExtrapolationHold);
+    withKeys(t, {{0.0f, 1.0}, {10.0f, 2.0}, {20.0f, 3.0}, {25.0f, 4.0}, {30.0f, 5.0}});
+    ASSERT_EQ(t.moveAndChangeKeyframe(9.0, 25.0f, 20.0f), 3);
+    expectReads(t, {{10.0f, 2.0}, {15.0f, 2.5}, {20.0f, 3.0}, {25.0f, 9.0 + (5.0 - 9.0) / 2.0}});
+
     // A caller's own block survives the move.
     Probe s = linearCurve();
     s.blockSignals(true);
     s.moveAndChangeKeyframe(1.0, 0.0f, 15.0f);
     EXPECT_TRUE(s.signalsBlocked());
-}
-
-TEST(ParameterKeys, ReadsAtKeysReturnStoredValuesEvenWhereKeysShareATime)
-{
-    Probe p(0.0, -1000.0, 1000.0, InterpolationLinear, ExtrapolationHold);
-    withKeys(p, {{0.0f, 1.0}, {10.0f, 2.0}, {20.0f, 3.0}, {25.0f, 4.0}, {30.0f, 5.0}});
-    EXPECT_EQ(p.value(10.0f, nullptr), 2.0);
-    EXPECT_DOUBLE_EQ(p.value(15.0f, nullptr), 2.5);
-    EXPECT_DOUBLE_EQ(p.value(27.5f, nullptr), 4.5);
-    // Two keys at 20: the halving search meets key 2 first.
-    ASSERT_EQ(p.moveAndChangeKeyframe(9.0, 25.0f, 20.0f), 3);
-    EXPECT_EQ(p.value(20.0f, nullptr), 3.0);
-    EXPECT_DOUBLE_EQ(p.value(25.0f, nullptr), 9.0 + (5.0 - 9.0) / 2.0);
 }
 
 TEST(ParameterKeys, AssignmentAndCopyOfKeyframeData)

@@ -74,7 +74,6 @@ TEST(StaticParameter, OnlyReadingALineRaisesValueChanged)
 TEST(MovedParameter, WritesNothingAndForwardsLines)
 {
     Prm::MovedParameter withoutTarget("Render", nullptr);
-    EXPECT_EQ(withoutTarget.scriptName(), "Render");
     EXPECT_EQ(qstrStreamed(withoutTarget, "Set."), "");
     EXPECT_EQ(qstrStreamed(withoutTarget, "", false), "");
     // Old text with the name still loads, and changes nothing.

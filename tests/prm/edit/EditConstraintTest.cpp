@@ -1,3 +1,4 @@
+#include "prm/Fixtures.h"
 #include "bsc/Command.h"
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
@@ -6,39 +7,42 @@
 
 namespace {
 
-using Curve = Prm::NumericParameter<double>;
-
 Curve curve(char const* name, double first, double last)
 {
-    Curve parameter(true, name, 0.0, -100.0, 100.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
-    parameter.vSetValue(first, 0.0f);
-    parameter.vSetValue(last, 10.0f);
-    return parameter;
+    return curveOf({{0.0f, first}, {10.0f, last}}, name);
 }
 
 } // namespace
 
-TEST(EditConstraint, FollowerGetsItsOwnKeysBackOnUndo)
+TEST(EditConstraint, FollowersGetTheirOwnKeysAndStaticValueBackOnUndo)
 {
     Curve master = curve("Master", 0.0, 10.0);
     Curve slave = curve("Slave", 50.0, 60.0);
     slave.vSetExtrapolationAfter(Prm::ExtrapolationLinear);
 
+    Prm::Parameter<int> plainMaster(true, "Master", 1, Prm::InterpolationStep, Prm::ExtrapolationHold);
+    Prm::Parameter<int> plain(false, "Plain", 7, Prm::InterpolationStep, Prm::ExtrapolationHold);
+
     Bsc::CompositeCommand composite;
     EXPECT_EQ(&master.bAddConstrainedParameterCommand(&slave, composite), &composite);
+    plainMaster.bAddConstrainedParameterCommand(&plain, composite);
     EXPECT_EQ(slave.master(), nullptr);
     composite.doIt();
     EXPECT_EQ(slave.master(), &master);
     EXPECT_EQ(slave.value(5.0f, nullptr), 5.0);
+    EXPECT_EQ(plain.value(0.0f, nullptr), 1);
 
     // Writes while constrained land in the slave's own store, and undo replaces them.
     slave.vSetValue(99.0, 5.0f);
     EXPECT_EQ(slave.value(5.0f, nullptr), 5.0);
+    plain.vSetValue(3, 0.0f);
     composite.undoIt();
     EXPECT_EQ(slave.master(), nullptr);
     ASSERT_EQ(slave.keyframeCount(), 2u);
     EXPECT_EQ(slave.value(5.0f, nullptr), 55.0);
     EXPECT_EQ(slave.extrapolationAfter(), Prm::ExtrapolationLinear);
+    EXPECT_EQ(plain.value(0.0f, nullptr), 7); // and a static follower its static value
+    EXPECT_FALSE(plain.isKeyframed());
 
     composite.doIt();
     EXPECT_EQ(slave.master(), &master);
@@ -46,56 +50,32 @@ TEST(EditConstraint, FollowerGetsItsOwnKeysBackOnUndo)
     EXPECT_EQ(slave.value(5.0f, nullptr), 55.0);
 }
 
-TEST(EditConstraint, PlainFollowerAndStaticValueRestored)
-{
-    Prm::Parameter<int> master(true, "Master", 1, Prm::InterpolationStep, Prm::ExtrapolationHold);
-    Prm::Parameter<int> slave(false, "Slave", 7, Prm::InterpolationStep, Prm::ExtrapolationHold);
-    Bsc::CompositeCommand composite;
-    master.bAddConstrainedParameterCommand(&slave, composite);
-    composite.doIt();
-    EXPECT_EQ(slave.value(0.0f, nullptr), 1);
-    slave.vSetValue(3, 0.0f);
-    composite.undoIt();
-    EXPECT_EQ(slave.value(0.0f, nullptr), 7);
-    EXPECT_FALSE(slave.isKeyframed());
-}
-
-TEST(EditConstraint, RefusedConstraintsLeaveEverythingAlone)
-{
-    Curve master = curve("Master", 0.0, 10.0);
-    Prm::NumericParameter<float> otherType(true, "Other", 2.0f, 0.0f, 5.0f, Prm::InterpolationLinear,
-                                           Prm::ExtrapolationHold);
-    Bsc::CompositeCommand composite;
-    master.bAddConstrainedParameterCommand(&otherType, composite);
-    master.bAddConstrainedParameterCommand(nullptr, composite);
-    master.bAddConstrainedParameterCommand(&master, composite);
-    composite.doIt();
-    composite.undoIt();
-    EXPECT_EQ(otherType.master(), nullptr);
-    EXPECT_EQ(master.master(), nullptr);
-    EXPECT_EQ(otherType.staticValue(), 2.0f);
-}
-
-TEST(EditConstraint, CycleOfMastersIsRefused)
+TEST(EditConstraint, RefusedConstraintsAndCyclesLeaveEverythingAlone)
 {
     Curve a = curve("A", 1.0, 1.0);
     Curve b = curve("B", 2.0, 2.0);
     Curve c = curve("C", 3.0, 3.0);
+    Prm::NumericParameter<float> otherType(true, "Other", 2.0f, 0.0f, 5.0f, Prm::InterpolationLinear,
+                                           Prm::ExtrapolationHold);
     Bsc::CompositeCommand composite;
+    a.bAddConstrainedParameterCommand(&otherType, composite);
+    a.bAddConstrainedParameterCommand(nullptr, composite);
+    a.bAddConstrainedParameterCommand(&a, composite);
     a.bAddConstrainedParameterCommand(&b, composite); // b follows a
     b.bAddConstrainedParameterCommand(&c, composite); // c follows b
     c.bAddConstrainedParameterCommand(&a, composite); // a would follow c: refused
     composite.doIt();
+    EXPECT_EQ(otherType.master(), nullptr);
     EXPECT_EQ(a.master(), nullptr);
     EXPECT_EQ(c.master(), &b);
-    // Reading the end of the chain ends at the root.
-    EXPECT_EQ(c.value(5.0f, nullptr), 1.0);
+    EXPECT_EQ(c.value(5.0f, nullptr), 1.0); // the end of the chain reads the root
     EXPECT_EQ(a.value(5.0f, nullptr), 1.0);
 
     composite.undoIt();
     EXPECT_EQ(b.master(), nullptr);
     EXPECT_EQ(c.master(), nullptr);
     EXPECT_EQ(c.value(5.0f, nullptr), 3.0);
+    EXPECT_EQ(otherType.staticValue(), 2.0f);
 }
 
 TEST(EditConstraint, UnconstrainAndRemoveCommandsUndo)

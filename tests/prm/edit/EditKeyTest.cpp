@@ -8,47 +8,35 @@
 
 namespace {
 
-using Curve = Prm::NumericParameter<double>;
-
 Curve curve()
 {
-    Curve parameter(true, "Curve", 0.5, -100.0, 100.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
-    return withKeys(parameter, {{0.0f, 0.0}, {10.0f, 10.0}, {20.0f, 0.0}});
+    return curveOf({{0.0f, 0.0}, {10.0f, 10.0}, {20.0f, 0.0}});
 }
 
 } // namespace
 
-TEST(EditKey, AddKeyTakesTheCurveValueAndSkipsAnExistingKey)
+TEST(EditKey, AddKeyTakesTheCurveValueSkipsAnExistingKeyAndGivesAFollowerNone)
 {
     Curve parameter = curve();
+    Curve slave = curveOf({}, "Slave");
+    ASSERT_TRUE(parameter.bAddConstrainedParameter(&slave));
     Bsc::CompositeCommand composite;
     parameter.vAddKeyframeCommand(5.0f, composite);
     parameter.vAddKeyframeCommand(10.0f, composite);
+    slave.vAddKeyframeCommand(5.0f, composite);
     composite.doIt();
     EXPECT_EQ(parameter.keyframeCount(), 4u);
     EXPECT_EQ(parameter.keyframeValue(1), 5.0);
-    composite.undoIt();
-    // The skipped edit leaves the key at 10 alone on undo.
-    EXPECT_EQ(parameter.keyframeCount(), 3u);
-    EXPECT_TRUE(parameter.bKeyframeAt(10.0f));
-    EXPECT_FALSE(parameter.bKeyframeAt(5.0f));
-    composite.doIt();
-    EXPECT_EQ(parameter.keyframeCount(), 4u);
-}
-
-TEST(EditKey, FollowerGetsNoKeyButUndoStillDeletes)
-{
-    Curve master = curve();
-    Curve slave(true, "Slave", 0.0, -100.0, 100.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
-    ASSERT_TRUE(master.bAddConstrainedParameter(&slave));
-    Bsc::CompositeCommand composite;
-    slave.vAddKeyframeCommand(5.0f, composite);
-    composite.doIt();
     EXPECT_EQ(slave.keyframeCount(), 0u);
 
     slave.vSetValue(3.0, 5.0f); // a key of the slave's own at that time
     composite.undoIt();
-    EXPECT_EQ(slave.keyframeCount(), 0u);
+    EXPECT_EQ(slave.keyframeCount(), 0u) << "the follower's undo still deletes";
+    EXPECT_EQ(parameter.keyframeCount(), 3u);
+    EXPECT_TRUE(parameter.bKeyframeAt(10.0f)) << "the skipped edit leaves the key at 10 alone on undo";
+    EXPECT_FALSE(parameter.bKeyframeAt(5.0f));
+    composite.doIt();
+    EXPECT_EQ(parameter.keyframeCount(), 4u);
 }
 
 TEST(EditKey, DeletedKeyComesBackWithoutItsHandles)
@@ -102,7 +90,7 @@ TEST(EditKey, DeleteAllGoesKeyByKeyAndLosesTheStaticValue)
     EXPECT_EQ(parameter.keyframeCount(), 1u);
     EXPECT_TRUE(parameter.bKeyframeAt(30.0f));
 
-    Curve empty(true, "Empty", 0.5, -1.0, 1.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
+    Curve empty = curveOf({});
     Bsc::CompositeCommand emptyComposite;
     empty.vDeleteAllKeyframesCommand(emptyComposite);
     emptyComposite.doIt();
@@ -114,43 +102,31 @@ TEST(EditKey, DeleteAllGoesKeyByKeyAndLosesTheStaticValue)
 TEST(EditKey, ResetEditNeverChangesTheValue)
 {
     Curve withKey = curve();
-    Bsc::CompositeCommand atKey;
-    withKey.vResetCommand(10.0f, atKey);
-    atKey.doIt();
-    atKey.undoIt();
+    Curve between = curve();
+    Curve flat(false, "Flat", 0.5, -1.0, 1.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
+    Curve unkeyed = curveOf({});
+    Bsc::CompositeCommand composite;
+    withKey.vResetCommand(10.0f, composite);
+    between.vResetCommand(5.0f, composite);
+    flat.vResetCommand(2.0f, composite);
+    unkeyed.vResetCommand(2.0f, composite);
+    composite.doIt();
+    EXPECT_EQ(between.keyframeCount(), 3u);
+    EXPECT_EQ(flat.staticValue(), 0.5);
+    EXPECT_EQ(unkeyed.keyframeCount(), 0u);
+
+    flat.vSetValue(0.25, 0.0f);
+    composite.undoIt();
     EXPECT_EQ(withKey.keyframeCount(), 3u);
     EXPECT_EQ(withKey.value(10.0f, nullptr), 10.0);
-
-    Curve between = curve();
-    Bsc::CompositeCommand betweenKeys;
-    between.vResetCommand(5.0f, betweenKeys);
-    betweenKeys.doIt();
-    EXPECT_EQ(between.keyframeCount(), 3u);
-    betweenKeys.undoIt();
     ASSERT_EQ(between.keyframeCount(), 4u);
     EXPECT_EQ(between.keyframeValue(1), 5.0);
-    betweenKeys.doIt(); // removes the key its undo added
-    EXPECT_EQ(between.keyframeCount(), 3u);
-
-    Curve flat(false, "Flat", 0.5, -1.0, 1.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
-    Bsc::CompositeCommand noKeys;
-    flat.vResetCommand(2.0f, noKeys);
-    noKeys.doIt();
     EXPECT_EQ(flat.staticValue(), 0.5);
-    flat.vSetValue(0.25, 0.0f);
-    noKeys.undoIt();
-    EXPECT_EQ(flat.staticValue(), 0.5);
-
     // Keyframed without keys: the undo writes the old value at time 0, which makes a key there.
-    Curve unkeyed(true, "Unkeyed", 0.5, -1.0, 1.0, Prm::InterpolationLinear, Prm::ExtrapolationHold);
-    Bsc::CompositeCommand unkeyedReset;
-    unkeyed.vResetCommand(2.0f, unkeyedReset);
-    unkeyedReset.doIt();
-    EXPECT_EQ(unkeyed.keyframeCount(), 0u);
-    unkeyedReset.undoIt();
-    ASSERT_EQ(unkeyed.keyframeCount(), 1u);
-    EXPECT_EQ(unkeyed.keyframeTime(0), 0.0f);
-    EXPECT_EQ(unkeyed.keyframeValue(0), 0.5);
+    EXPECT_EQ(keysOf(unkeyed), (Keys<Curve>{{0.0f, 0.5}}));
+
+    composite.doIt(); // removes the key its undo added
+    EXPECT_EQ(between.keyframeCount(), 3u);
 }
 
 TEST(EditKey, MoveIsOneShotAndReadsTheOldValueWhenMade)

@@ -2,6 +2,8 @@
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
 
+#include <tuple>
+
 using Filter = boost::function<QString(QString const&)>;
 
 TEST(ParameterTextReader, FieldWordsArePrefixTestsInOrder)
@@ -44,11 +46,8 @@ TEST(ParameterTextReader, KeyLinesAndTheirFailures)
     EXPECT_EQ(p.keyframeValue(1), 2.0) << "overwritten in place";
     EXPECT_EQ(p.interpolation(1u), Prm::InterpolationStep) << "an unknown name keeps the kind";
     EXPECT_TRUE(p.streamInValue("keyframes.append( BezierKey( 1, 0.5, 8, 0.1, -8, -0.1 ) ) )", Filter()));
-    Prm::IType const record = p.interpolationData(0u);
-    EXPECT_EQ(record.dOutTime, 8.0);
-    EXPECT_EQ(record.dOutValue, 0.1);
-    EXPECT_EQ(record.dInTime, -8.0);
-    EXPECT_EQ(record.dInValue, -0.1);
+    Prm::IType const r = p.interpolationData(0u);
+    EXPECT_EQ(std::make_tuple(r.dOutTime, r.dOutValue, r.dInTime, r.dInValue), std::make_tuple(8.0, 0.1, -8.0, -0.1));
     EXPECT_TRUE(p.streamInValue("keyframes.append( Key( x, y, Step ) )", Filter()));
     EXPECT_EQ(p.keyframeTime(0), 0.0f) << "unparsable numbers read as 0";
     EXPECT_TRUE(log.lines.empty());

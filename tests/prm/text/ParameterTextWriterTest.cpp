@@ -45,16 +45,12 @@ TEST(ParameterTextWriter, StaticKeyedBezierAndEmptyKeyed)
     curved.vSetValue(0.5, 1.0f);
     curved.vSetInterpolationData(bezier(8, 0.1, -8, -0.1), 0);
     EXPECT_EQ(writtenLines(curved).first(), "Set.Gain.keyframes.append( BezierKey( 1, 0.5, 8, 0.1, -8, -0.1 ) )");
-    EXPECT_EQ(curved.keyframeSuffixString(1.0f), "keyframes.append( BezierKey( 1, 0.5, 8, 0.1, -8, -0.1 ) )");
     EXPECT_EQ(curved.keyframeSuffixString(1.0001f), "");
     EXPECT_EQ(curved.indexSuffixString(1), "") << "an index out of range gives no text";
 }
 
 TEST(ParameterTextWriter, SixSignificantDigitsEverywhereButTheCallersStream)
 {
-    EXPECT_EQ(QString("%1").arg(1234567.0, 0, 'g', -1), "1.23457e+06");
-    EXPECT_EQ(QString("%1").arg(3.14159265358979, 0, 'g', -1), "3.14159");
-
     Prm::NumericParameter<double> p(true, "Angle", 0.0, 0.0, 1e9, Prm::InterpolationStep, Prm::ExtrapolationHold);
     p.vSetValue(3.14159265358979, 1234.5678f);
     p.vSetInterpolationData(bezier(0.123456789, 1e-7, -1e7, 2.5), 0);
@@ -127,6 +123,4 @@ TEST(ParameterTextWriter, ValueStringsAndVariants)
     EXPECT_EQ(clamped.value(3.0f, nullptr), 5) << "Qt's conversion rounds";
     clamped.importValueAt(4.0f, QVariant(QStringList{"x"}));
     EXPECT_FALSE(clamped.bKeyframeAt(4.0f)) << "a variant that cannot convert changes nothing";
-    Prm::Parameter<float> real(false, "Real", 0.0f, Prm::InterpolationStep, Prm::ExtrapolationHold);
-    EXPECT_EQ(real.exportValueAt(0.0f).userType(), int(QMetaType::Float));
 }
