@@ -3,6 +3,7 @@
 /// a typed look at every parameter through the untyped list, so that one set of checks walks all sets.
 #include "clip/BaseClipInfo.h"
 #include "clip/BaseClipInfoContainer.h"
+#include "clip/Fixtures.h"
 #include "clip/FrameOffsetParameter.h"
 #include "modules/InsertOffsetParameterSet.h"
 #include "modules/InsertROIParameterSet.h"
@@ -262,11 +263,4 @@ inline void vMutate(Prm::ParameterSet const& set, int seed)
     }
 }
 
-/// Clips by id, each with its own frame; a missing id is no clip.
-struct Clips : TQ_BaseClipInfoContainer {
-    TQ_BaseClipInfo* baseClipInfo(unsigned int clipId) override
-    {
-        return clips.contains(clipId) ? &clips[clipId] : nullptr;
-    }
-    QMap<unsigned int, TQ_BaseClipInfo> clips;
-};
+using TQTest::Clips;
