@@ -3,40 +3,21 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-using TQ::ClipBoundParameterSet;
-
-Prm::Parameter<unsigned int> clipReference(unsigned int defaultId)
-{
-    return Prm::Parameter<unsigned int>(false, "AnyClipID", defaultId, Prm::InterpolationStep,
-                                        Prm::ExtrapolationHold);
-}
-
 TEST(ClipBoundParameterSet, ForgetClipResetsToTheDefaultAndAnnouncesOnlyARealChange)
 {
-    struct Row {
-        unsigned int uiDefault, uiStored, uiForgotten, uiExpected;
-        bool bAnnounced;
-    };
-    Row const rows[] = {
-        {0, 7, 7, 0, true},  // the named clip goes back to "no clip"
-        {1, 7, 7, 1, true},  // ... or to the main input, never to 0 blindly
-        {0, 7, 3, 7, false}, // another clip: untouched
-        {0, 7, 0, 0, true},  // 0 is a wildcard
-        {1, 1, 1, 1, false}, // already the default: no notice
-        {1, 1, 0, 1, false},
-        {0, 0, 0, 0, false},
-    };
+    // The named clip goes back to its default ("no clip" or the main input, never 0 blindly); another clip is
+    // untouched; 0 is a wildcard; a reference already at its default raises no notice.
+    struct Row { unsigned int uiDefault, uiStored, uiForgotten, uiExpected; bool bAnnounced; };
+    Row const rows[] = {{0, 7, 7, 0, true},   {1, 7, 7, 1, true},   {0, 7, 3, 7, false}, {0, 7, 0, 0, true},
+                        {1, 1, 1, 1, false}, {1, 1, 0, 1, false}, {0, 0, 0, 0, false}};
     for (Row const& row : rows) {
-        Prm::Parameter<unsigned int> clip = clipReference(row.uiDefault);
+        Prm::Parameter<unsigned int> clip(false, "AnyClipID", row.uiDefault, Prm::InterpolationStep,
+                                          Prm::ExtrapolationHold);
         clip.vSetValue(row.uiStored, 0.0f);
         ChangeRecorder recorder(clip);
-        ClipBoundParameterSet::forgetClip(clip, row.uiForgotten);
-        EXPECT_EQ(clip.staticValue(), row.uiExpected) << row.uiStored << " forgetting " << row.uiForgotten;
+        TQ::ClipBoundParameterSet::forgetClip(clip, row.uiForgotten);
+        EXPECT_EQ(clip.staticValue(), row.uiExpected) << &row - rows;
         Events const expected = row.bAnnounced ? Events{{Prm::ParameterChange::StaticValueChanged, 0}} : Events{};
-        EXPECT_EQ(recorder.events, expected) << row.uiStored << " forgetting " << row.uiForgotten;
+        EXPECT_EQ(recorder.events, expected) << &row - rows;
     }
 }
-
-} // namespace
