@@ -3,14 +3,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QRegularExpression>
-
 #include <cstring>
 #include <memory>
 #include <utility>
 #include <vector>
 
 using TQTest::linesOf;
+using TQTest::textOf;
 
 namespace {
 
@@ -26,39 +25,15 @@ Frames framesOf(TQ_ClipInfo const& clip)
     return frames;
 }
 
-// The text of a default clip in order, and of one with every parameter but "DiscreteFrames" away from its
-// default.
-QStringList const defaults = {
-    "ReadOnly.value=0", "Hidden.value=0", "DiscreteFrames.value=0", "Predefined.value=0", "ClipDirectory.value=\"\"",
-    "ClipPrefix.value=\"\"", "ClipSuffix.value=\"\"", "MinimumIndex.value=0", "MaximumIndex.value=0",
-    "IndexWidth.value=0", "SingleFrame.value=0", "Colourspace.value=0", "Gamma.value=1", "Offset.value=0",
-    "RefWhite.value=685", "RefBlack.value=95", "SoftClip.value=0", "NativePixelType.value=17", "FloatFormat.value=0",
-    "8BitFormat.value=0", "ImageFormatOfFile.value=13", "OriginalImageFormat.value=13", "ImageDataTypeOfFile.value=17",
-    "ProcessBits.value=0", "HasIndex.value=0", "Linear.value=0", "Reapply32Pulldown.value=1", "ProxyScale.value=0"};
-QStringList const changed = {
-    "ReadOnly.value=1", "Hidden.value=1", "DiscreteFrames.value=0", "Predefined.value=1",
-    "ClipDirectory.value=\"/shots/a b\"", "ClipPrefix.value=\"plate.%d\"", "ClipSuffix.value=\".dpx\"",
-    "MinimumIndex.value=1001", "MaximumIndex.value=1100", "IndexWidth.value=5", "SingleFrame.value=1",
-    "Colourspace.value=1", "Gamma.value=0.6", "Offset.value=12.5", "RefWhite.value=700", "RefBlack.value=90",
-    "SoftClip.value=20", "NativePixelType.value=1", "FloatFormat.value=1", "8BitFormat.value=1",
-    "ImageFormatOfFile.value=4", "OriginalImageFormat.value=5", "ImageDataTypeOfFile.value=3", "ProcessBits.value=16",
-    "HasIndex.value=1", "Linear.value=1", "Reapply32Pulldown.value=0", "ProxyScale.value=2"};
-
-QStringList qualified(QStringList lines, QString const& prefix)
-{
-    return lines.replaceInStrings(QRegularExpression("^"), prefix);
-}
-
 } // namespace
 
 TEST(ClipInfo, DefaultsTextOrderRoundTripAndTheSequenceParameters)
 {
     TQ_ClipInfo clip;
     EXPECT_EQ(10, clip.sourceDataType);
-    EXPECT_EQ(qualified(defaults, "P.Core."), linesOf(clip, "P."));
-    // Text in, the members it reaches, text out.
-    for (QString const& line : changed)
-        EXPECT_TRUE(clip.bStreamIn(line)) << line.toStdString();
+    EXPECT_EQ(textOf("ClipInfo defaults", "P.Core."), linesOf(clip, "P."));
+    // Text in, the members it reaches, text out. Every parameter but "DiscreteFrames" is away from its default.
+    TQTest::vReadLines(clip, textOf("ClipInfo changed"));
     TQ_ColourspaceParameters const& c = clip.colourspace;
     EXPECT_TRUE(clip.ReadOnly && clip.Hidden && clip.Predefined && clip.SingleFrame && clip.HasIndex && clip.Linear);
     EXPECT_TRUE(!clip.Reapply32Pulldown && clip.ClipDirectory == "/shots/a b");
@@ -68,12 +43,12 @@ TEST(ClipInfo, DefaultsTextOrderRoundTripAndTheSequenceParameters)
     EXPECT_TRUE(clip.ImageFormatOfFile == 4 && clip.OriginalImageFormat == 5 && clip.ImageDataTypeOfFile == 3);
     EXPECT_TRUE(clip.ProxyScale == 2 && clip.ProcessBits == 16);
     EXPECT_TRUE(clip.ClipPrefix.string() == "plate.%d" && clip.ClipSuffix.string() == ".dpx");
-    EXPECT_EQ(qualified(changed, "Core."), linesOf(clip));
+    EXPECT_EQ(textOf("ClipInfo changed"), linesOf(clip));
 
     // A discrete clip, with no list yet, drops exactly the six sequence parameters, as often as it is written.
     TQ_ClipInfo discrete;
     discrete.DiscreteFrames = TQ_TRUE;
-    QStringList expected = qualified(defaults.mid(0, 4) + defaults.mid(10), "Core.");
+    QStringList expected = textOf("ClipInfo defaults").mid(0, 4) + textOf("ClipInfo defaults").mid(10);
     expected[2] = "Core.DiscreteFrames.value=1";
     EXPECT_EQ(expected, linesOf(discrete));
     EXPECT_EQ(expected, linesOf(discrete));
@@ -203,12 +178,11 @@ TEST(ClipInfo, CopyAndAssignmentOfTheFrameList)
 TEST(ClipInfo, HeaderCopyAndFileType)
 {
     TQ_ClipInfo clip;
-    for (QString const& line : changed)
-        clip.bStreamIn(line);
+    TQTest::vReadLines(clip, textOf("ClipInfo changed"));
     gan_initialise_image_header_info(&clip.imageHeaderInfo, GAN_RGB_COLOUR_IMAGE, GAN_FLOAT);
     clip.imageHeaderInfo.width = 2048;
     std::unique_ptr<TQ_ClipInfo> const header(clip.copyHeaderInfo());
-    QStringList expected = qualified(defaults, "Core.");
+    QStringList expected = textOf("ClipInfo defaults");
     expected[20] = "Core.ImageFormatOfFile.value=4", expected[22] = "Core.ImageDataTypeOfFile.value=3";
     EXPECT_EQ(expected, linesOf(*header));
     EXPECT_EQ(0, std::memcmp(&clip.imageHeaderInfo, &header->imageHeaderInfo, sizeof clip.imageHeaderInfo));

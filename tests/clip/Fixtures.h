@@ -6,11 +6,19 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QMap>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QTextStream>
 
 #include <vector>
+
+/// Lets failures show texts as texts.
+inline void PrintTo(QString const& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
 
 namespace TQTest {
 
@@ -42,13 +50,24 @@ inline QStringList linesOf(Prm::ParameterSet& set, QString const& prefix = QStri
     return text.split('\n', Qt::SkipEmptyParts);
 }
 
-/// Reads lines written by a set named "Core" into `set`: a set reads lines relative to itself.
+/// Reads lines into `set`, each expected to be accepted. Lines written by a set named "Core" lose that
+/// qualifier first: a set reads lines relative to itself.
 inline void vReadLines(Prm::ParameterSet& set, QStringList const& lines)
 {
-    for (QString const& line : lines) {
-        ASSERT_TRUE(line.startsWith("Core."));
-        EXPECT_TRUE(set.bStreamIn(line.mid(5))) << line.toStdString();
-    }
+    for (QString line : lines)
+        EXPECT_TRUE(set.bStreamIn(line.startsWith("Core.") ? line.mid(5) : line)) << line.toStdString();
+}
+
+/// The non-empty lines of one section of the clip tests' texts, from its "[name]" line to the next section.
+inline QStringList textOf(QString const& section, QString const& prefix = "Core.")
+{
+    QFile file(TQ_TEST_FOLDER "/../clip/data/Texts.txt");
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
+    QStringList const lines = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    int const from = lines.indexOf("[" + section + "]") + 1;
+    EXPECT_GT(from, 0) << section.toStdString();
+    QStringList text = lines.mid(from, lines.indexOf(QRegularExpression("\\[.*\\]"), from) - from);
+    return text.replaceInStrings(QRegularExpression("^"), prefix);
 }
 
 } // namespace TQTest
