@@ -62,51 +62,46 @@ void vExpectLookups(std::vector<T> const& table, float const* s, std::function<d
     EXPECT_GE(checked, 4);
 }
 
+// The rows of a data file beside the tests, split at blanks; '#' starts a comment.
+std::vector<QList<QByteArray>> rowsOf(char const* name)
+{
+    QFile file(QString(TQ_TEST_FOLDER "/data/") + name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text)) << name;
+    std::vector<QList<QByteArray>> rows;
+    while (!file.atEnd())
+        if (QByteArray const row = file.readLine().split('#')[0].simplified(); !row.isEmpty())
+            rows.push_back(row.split(' '));
+    return rows;
+}
+
 } // namespace
 
 TEST(LookupTable, LimitsRoundingAndQuirksOfEachCurve)
 {
-    auto const log16 = vBuilt<U16>(65536, [](U16* t) { return gbCreate16BitLogLinLookup(16, 0, 685, 95, 1, 0, t); });
-    auto const soft = vBuilt<U16>(1024, [](U16* t) { return gbCreate16BitLogLinLookup(10, 0, 685, 95, 1, 20, t); });
-    auto const logFloat =
-        vBuilt<float>(1024, [](float* t) { return gbCreate32BitFloatLogLinLookup(10, 0, 685, 95, 1, 0, t); });
-    auto const toLog =
-        vBuilt<U16>(65536, [](U16* t) { return gbCreate16BitLinLogLookup(16, 0, 685, 95, 1, 0, t, NO_FLOAT_INPUT); });
-    auto const toLogFloat = vBuilt<float>(
-        256, [](float* t) { return gbCreate32BitFloatLinLogLookup(8, 0, 685, 95, 1, 0, t, NO_FLOAT_INPUT); });
-    auto const panalog = vBuilt<U8>(256, [](U8* t) { return gbCreate8BitPanalogLinLookup(8, t, false); });
-    auto const toPanalog8 = vBuilt<U8>(256, [](U8* t) { return gbCreate8BitLinPanalogLookup(8, t, NO_FLOAT_INPUT); });
-    auto const toPanalog =
-        vBuilt<U16>(65536, [](U16* t) { return gbCreate16BitLinPanalogLookup(16, t, NO_FLOAT_INPUT); });
-    auto const panalogFloat =
-        vBuilt<float>(1024, [](float* t) { return gbCreate32BitFloatPanalogLinLookup(10, t, false); });
-    auto const toPanalogFloat =
-        vBuilt<float>(1024, [](float* t) { return gbCreate32BitFloatLinPanalogLookup(10, t, NO_FLOAT_INPUT); });
-    auto const gamma = vBuilt<U16>(65536, [](U16* t) { return gbCreate16BitGammaLookup(16, 2.2f, t, NO_FLOAT_INPUT); });
-
-    // Entries [from, to) of a table lie in [lo, hi], or equal lo. Single entries hold their curve's value,
-    // rounded: the linear-to-log code is rounded to single precision before it is scaled, the Panalog input is
-    // the index times a single-precision step.
-    struct Range { std::vector<double> const& table; int from, to; double lo, hi = NAN; };
-    Range const ranges[] = {
-        {log16, 0, 6081, 0}, {log16, 6200, 43840, 1, 65534}, {log16, 43840, 65536, 65535},  // codes 95, 685
-        {log16, 20000, 20001, 7987},                                                        // code 312.5
-        {soft, 600, 601, 42805}, {soft, 670, 671, 62752}, {soft, 700, 701, 64366},          // the knee is 665
-        {soft, 685, 686, 0, 65534}, {soft, 1023, 1024, 65535},  // the shoulder overshoots and is clamped
-        {logFloat, 0, 1, -1, -1e-3}, {logFloat, 1023, 1024, 1.001, 1e8},  // unclipped, and no 1e9 marker
-        {toLog, 0, 1, 95 * 64}, {toLog, 65535, 65536, 685 * 64}, {toLog, 32768, 32769, 35096},
-        {toLogFloat, 0, 256, 0.5},                                                          // scaled by 0
-        {panalog, 16, 17, 0}, {panalog, 255, 256, 255}, {panalog, 100, 101, 9},             // codes 64, 1020, 400
-        {toPanalog8, 0, 1, 16}, {toPanalog8, 255, 256, 255}, {toPanalog, 0, 1, 64 * 64},
-        {toPanalog, 0, 65536, 0, 65216}, {toPanalog, 65535, 65536, 65216}, {toPanalog, 13636, 13637, 46163},
-        {toPanalog, 15989, 15990, 48067}, {toPanalog, 30239, 30240, 55768},
-        {panalogFloat, 0, 1024, 0}, {toPanalogFloat, 0, 1024, 0},                           // unless normalised
-        {gamma, 0, 1, 0}, {gamma, 1, 2, 424}, {gamma, 1000, 1001, 9790}, {gamma, 30000, 30001, 45943},
-        {gamma, 65535, 65536, 65535},
+    std::map<QByteArray, std::vector<double>> const tables = {
+        {"log16", vBuilt<U16>(65536, [](U16* t) { return gbCreate16BitLogLinLookup(16, 0, 685, 95, 1, 0, t); })},
+        {"soft", vBuilt<U16>(1024, [](U16* t) { return gbCreate16BitLogLinLookup(10, 0, 685, 95, 1, 20, t); })},
+        {"logFloat",
+         vBuilt<float>(1024, [](float* t) { return gbCreate32BitFloatLogLinLookup(10, 0, 685, 95, 1, 0, t); })},
+        {"toLog", vBuilt<U16>(65536, [](U16* t) {
+             return gbCreate16BitLinLogLookup(16, 0, 685, 95, 1, 0, t, NO_FLOAT_INPUT);
+         })},
+        {"toLogFloat", vBuilt<float>(256, [](float* t) {
+             return gbCreate32BitFloatLinLogLookup(8, 0, 685, 95, 1, 0, t, NO_FLOAT_INPUT);
+         })},
+        {"panalog", vBuilt<U8>(256, [](U8* t) { return gbCreate8BitPanalogLinLookup(8, t, false); })},
+        {"toPanalog8", vBuilt<U8>(256, [](U8* t) { return gbCreate8BitLinPanalogLookup(8, t, NO_FLOAT_INPUT); })},
+        {"toPanalog", vBuilt<U16>(65536, [](U16* t) { return gbCreate16BitLinPanalogLookup(16, t, NO_FLOAT_INPUT); })},
+        {"panalogFloat", vBuilt<float>(1024, [](float* t) { return gbCreate32BitFloatPanalogLinLookup(10, t, false); })},
+        {"toPanalogFloat",
+         vBuilt<float>(1024, [](float* t) { return gbCreate32BitFloatLinPanalogLookup(10, t, NO_FLOAT_INPUT); })},
+        {"gamma", vBuilt<U16>(65536, [](U16* t) { return gbCreate16BitGammaLookup(16, 2.2f, t, NO_FLOAT_INPUT); })},
     };
-    for (Range const& r : ranges) {
-        auto const [low, high] = std::minmax_element(r.table.begin() + r.from, r.table.begin() + r.to);
-        EXPECT_TRUE(*low >= r.lo && *high <= (std::isnan(r.hi) ? r.lo : r.hi)) << &r - ranges << ": " << *low;
+    for (QList<QByteArray> const& row : rowsOf("BuilderTables.txt")) {
+        std::vector<double> const& table = tables.at(row[0]);
+        double const lo = row[3].toDouble(), hi = row.size() > 4 ? row[4].toDouble() : lo;
+        auto const [low, high] = std::minmax_element(table.begin() + row[1].toInt(), table.begin() + row[2].toInt());
+        EXPECT_TRUE(*low >= lo && *high <= hi) << row.join(' ').constData() << ": " << *low << " to " << *high;
     }
 
     // Reference black above white counts as one below white.
@@ -209,8 +204,6 @@ TEST(LookupTable, RefusalsAndDegenerateArguments)
 
 TEST(ClipInfoLookupTables, EachColourspaceAgainstItsCurves)
 {
-    QFile file(TQ_TEST_FOLDER "/data/ColourspaceTables.txt");
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
     TQ_ClipInfo clip;
     TQ_ColourspaceParameters& t = clip.colourspace;
     std::map<QByteArray, std::function<double(int)>> const tables = {
@@ -220,8 +213,7 @@ TEST(ClipInfoLookupTables, EachColourspaceAgainstItsCurves)
         {"lut8ToFloat", [&](int i) { return t.lut8ToFloat[i]; }},
         {"lut16ToFloat", [&](int i) { return t.lut16ToFloat[i]; }}};
     int clips = 0;
-    while (!file.atEnd()) {
-        QList<QByteArray> const f = file.readLine().simplified().split(' ');
+    for (QList<QByteArray> const& f : rowsOf("ColourspaceTables.txt")) {
         if (f[0] == "clip") {
             t.colourspace = _TQ_COLORSPACE(f[1].toInt()), t.gamma = f[2].toFloat(), t.offset = f[3].toFloat();
             t.refWhite = f[4].toFloat(), t.refBlack = f[5].toFloat(), t.softClip = f[6].toFloat();
@@ -234,7 +226,7 @@ TEST(ClipInfoLookupTables, EachColourspaceAgainstItsCurves)
                 ASSERT_NEAR(i, t.lutFloatTo8[int(fPosition(t.floatTo8Segments, t.lut8ToFloat[i]))], 1.0) << i;
             for (int i = f[7].toInt() * 256; i <= f[8].toInt() * 256; i += 7)
                 ASSERT_NEAR(i, t.lutFloatTo16[int(fPosition(t.floatTo16Segments, t.lut16ToFloat[i]))], 64.0) << i;
-        } else if (tables.count(f[0])) {
+        } else {
             for (int k = 3, stride = f[1].toInt(); k < f.size(); ++k)
                 ASSERT_NEAR(f[k].toDouble(), tables.at(f[0])((k - 3) * stride), f[2].toDouble())
                     << clips << " " << f[0].constData() << " entry " << (k - 3) * stride;
