@@ -83,48 +83,42 @@ TEST(ClipInfo, FirstFileName)
 
 TEST(ClipInfo, DiscreteFrameLinesInOutAndBack)
 {
-    // Lines read in order into a fresh clip, how many of them are accepted, and the frames they leave.
+    // Lines read in order into a fresh clip, how many of them are accepted, and the frames they leave as a
+    // discrete clip writes them.
     QString const longName(5000, 'q');
-    struct Row { QStringList in; int accepted; Frames frames; };
+    struct Row { QStringList in; int accepted; QStringList out; };
     Row const rows[] = {
         {{"Frames.DiscreteFrame( x )"}, 0, {}}, {{"Frames.discreteframe( x, 1 )"}, 0, {}},
         {{"Other.keyframes.append( DiscreteFrame( x, 1 ) )"}, 0, {}}, {{"Frames.DiscreteFrame( , 1 )"}, 0, {}},
         {{"Frames.DiscreteFrame( x, -1 )"}, 0, {}}, {{"Frames"}, 0, {}},
         // The name capture is greedy: commas stay in it up to the last one before the number.
-        {{"frames.keyframes.append( DiscreteFrame( a, b.tif, 12 ) )"}, 1, {{"a, b.tif", 12}}},
-        {{"FRAMES.xDiscreteFrame(c.tif,7)yz"}, 1, {{"c.tif", 7}}},
-        {{"Frames.DiscreteFrame(\td , 1, 2 ,  0042 )"}, 1, {{"d , 1, 2 ", 42}}},
-        {{"Frames.DiscreteFrame( " + longName + ", 4294967295 )"}, 1, {{longName.toUtf8(), 4294967295u}}},
-        {{"Frames.DiscreteFrame( big, 4294967296 )"}, 1, {{"big", 0}}},
+        {{"frames.keyframes.append( DiscreteFrame( a, b.tif, 12 ) )"}, 1, {"a, b.tif, 12"}},
+        {{"FRAMES.xDiscreteFrame(c.tif,7)yz"}, 1, {"c.tif, 7"}},
+        {{"Frames.DiscreteFrame(\td , 1, 2 ,  0042 )"}, 1, {"d , 1, 2 , 42"}},
+        {{"Frames.DiscreteFrame( " + longName + ", 4294967295 )"}, 1, {longName + ", 4294967295"}},
+        {{"Frames.DiscreteFrame( big, 4294967296 )"}, 1, {"big, 0"}},
         // A damaged line after good ones loses nothing.
         {{"Frames.DiscreteFrame( \xc3\xa9t\xc3\xa9.exr, 0 )", "Frames.DiscreteFrame( b, 0 )",
-          "Frames.keyframes.append( DiscreteFrame( broken"}, 2, {{"\xc3\xa9t\xc3\xa9.exr", 0}, {"b", 0}}},
+          "Frames.keyframes.append( DiscreteFrame( broken"}, 2, {"\xc3\xa9t\xc3\xa9.exr, 0", "b, 0"}},
     };
     for (Row const& row : rows) {
         TQ_ClipInfo clip, back;
         for (int i = 0; i < row.in.size(); ++i)
             EXPECT_EQ(i < row.accepted, clip.bStreamIn(row.in[i])) << row.in[i].left(60).toStdString();
         // A frame line does not make the clip discrete; refused lines create no list.
-        EXPECT_TRUE(!clip.DiscreteFrames && !clip.discreteFrameList() == row.frames.empty()) << &row - rows;
-        EXPECT_EQ(row.frames, framesOf(clip));
-        if (row.frames.empty())
-            continue;
-        // A discrete clip writes one line per frame, read back to the same frames.
+        EXPECT_TRUE(!clip.DiscreteFrames && !clip.discreteFrameList() == row.out.isEmpty()) << &row - rows;
         clip.DiscreteFrames = TQ_TRUE;
-        QStringList const out = linesOf(clip, "P.").mid(22);
-        ASSERT_EQ(int(row.frames.size()), out.size());
-        for (std::size_t i = 0; i < row.frames.size(); ++i)
-            EXPECT_EQ(QString("P.Core.Frames.keyframes.append( DiscreteFrame( %1, %2 ) )")
-                          .arg(QString::fromUtf8(row.frames[i].first), QString::number(row.frames[i].second)),
-                      out[int(i)]);
+        QStringList out = row.out;
+        out.replaceInStrings(QRegularExpression("^(.*)$"), "Core.Frames.keyframes.append( DiscreteFrame( \\1 ) )");
+        EXPECT_EQ(out, linesOf(clip).mid(22));
         TQTest::vReadLines(back, linesOf(clip));
-        EXPECT_EQ(row.frames, framesOf(back));
+        EXPECT_EQ(out, linesOf(back).mid(22));
     }
 
     TQ_ClipInfo clip;
     clip.DiscreteFrames = TQ_TRUE;
     clip.vAppendDiscreteFrame("a, b.tif", 12);
-    // Frame lines are qualified by the set's name whatever the flag says; no name, no dot.
+    // Frame lines are qualified by the prefix and the set's name whatever the flag says; no name, no dot.
     clip.setScriptName(QString());
     EXPECT_TRUE(linesOf(clip, "P.", false).contains("P.Frames.keyframes.append( DiscreteFrame( a, b.tif, 12 ) )"));
     // The list keeps the discrete form until init(true): a sequence line is refused meanwhile.
@@ -155,7 +149,7 @@ TEST(ClipInfo, CopyAndAssignmentOfTheFrameList)
     numbered->vAppendDiscreteFrame("c.tif", 3);
     TQ_ClipInfo sharing(*numbered);
     EXPECT_EQ(numbered->discreteFrameList(), sharing.discreteFrameList());
-    numbered->DiscreteFrames = TQ_TRUE;
+    numbered->DiscreteFrames = TQ_TRUE; // the last holder frees it
     numbered.reset();
     EXPECT_EQ((Frames{{"c.tif", 3}}), framesOf(sharing));
 
@@ -166,9 +160,7 @@ TEST(ClipInfo, CopyAndAssignmentOfTheFrameList)
     EXPECT_TRUE(discrete->discreteFrameList() != copy.discreteFrameList() && copy.qstrDisplayName() == "Shown");
     discrete.reset();
     EXPECT_EQ((Frames{{"a.tif", 1}, {"b.tif", 2}}), framesOf(copy));
-    copy.MaximumIndex = 77;
-    EXPECT_TRUE(linesOf(copy).contains("Core.Frames.keyframes.append( DiscreteFrame( b.tif, 2 ) )"));
-    copy.DiscreteFrames = TQ_FALSE;
+    copy.MaximumIndex = 77, copy.DiscreteFrames = TQ_FALSE;
     EXPECT_TRUE(linesOf(copy).contains("Core.MaximumIndex.value=77"));
     TQ_ClipInfo& alias = copy;
     copy = alias;
