@@ -27,7 +27,7 @@ Frames framesOf(TQ_ClipInfo const& clip)
 
 } // namespace
 
-TEST(ClipInfo, DefaultsTextOrderRoundTripAndTheSequenceParameters)
+TEST(ClipInfo, TextInMembersTextOutHeaderCopyAndFileType)
 {
     TQ_ClipInfo clip;
     EXPECT_EQ(10, clip.sourceDataType);
@@ -45,13 +45,26 @@ TEST(ClipInfo, DefaultsTextOrderRoundTripAndTheSequenceParameters)
     EXPECT_TRUE(clip.ClipPrefix.string() == "plate.%d" && clip.ClipSuffix.string() == ".dpx");
     EXPECT_EQ(textOf("ClipInfo changed"), linesOf(clip));
 
-    // A discrete clip, with no list yet, drops exactly the six sequence parameters, as often as it is written.
-    TQ_ClipInfo discrete;
-    discrete.DiscreteFrames = TQ_TRUE;
-    QStringList expected = textOf("ClipInfo defaults").mid(0, 4) + textOf("ClipInfo defaults").mid(10);
-    expected[2] = "Core.DiscreteFrames.value=1";
-    EXPECT_EQ(expected, linesOf(discrete));
-    EXPECT_EQ(expected, linesOf(discrete));
+    // The header copy keeps the header and the file's format and type, nothing else.
+    gan_initialise_image_header_info(&clip.imageHeaderInfo, GAN_RGB_COLOUR_IMAGE, GAN_FLOAT);
+    clip.imageHeaderInfo.width = 2048;
+    std::unique_ptr<TQ_ClipInfo> const header(clip.copyHeaderInfo());
+    QStringList expected = textOf("ClipInfo defaults");
+    expected[20] = "Core.ImageFormatOfFile.value=4", expected[22] = "Core.ImageDataTypeOfFile.value=3";
+    EXPECT_EQ(expected, linesOf(*header));
+    EXPECT_EQ(0, std::memcmp(&clip.imageHeaderInfo, &header->imageHeaderInfo, sizeof clip.imageHeaderInfo));
+    EXPECT_TRUE(header->colourspace.equals(TQ_ClipInfo().colourspace, 0.0f) && !header->discreteFrameList());
+
+    // The file type: float wins over 8-bit, 8-bit over 16-bit; nothing changes without a conversion.
+    for (auto [gamma, floatFormat, eightBit, type] : {std::tuple{2.2f, 1, 1, GAN_FLOAT}, {2.2f, 0, 1, GAN_UCHAR},
+                                                      {2.2f, 0, 0, GAN_USHORT}, {1.0f, 1, 0, GAN_FLOAT},
+                                                      {1.0f, 0, 1, GAN_INT}}) {
+        TQ_ClipInfo typed;
+        typed.ImageDataTypeOfFile = GAN_INT, typed.colourspace.gamma = gamma;
+        typed.colourspace.floatFormat = _TQ_BOOL(floatFormat), typed.colourspace.eightBitFormat = _TQ_BOOL(eightBit);
+        typed.vRebuildDataTypeOfFile();
+        EXPECT_EQ(type, typed.ImageDataTypeOfFile) << gamma << floatFormat << eightBit;
+    }
 }
 
 TEST(ClipInfo, FirstFileName)
@@ -83,6 +96,14 @@ TEST(ClipInfo, FirstFileName)
 
 TEST(ClipInfo, DiscreteFrameLinesInOutAndBack)
 {
+    // A discrete clip, with no list yet, drops exactly the six sequence parameters, as often as it is written.
+    TQ_ClipInfo discrete;
+    discrete.DiscreteFrames = TQ_TRUE;
+    QStringList expected = textOf("ClipInfo defaults").mid(0, 4) + textOf("ClipInfo defaults").mid(10);
+    expected[2] = "Core.DiscreteFrames.value=1";
+    EXPECT_EQ(expected, linesOf(discrete));
+    EXPECT_EQ(expected, linesOf(discrete));
+
     // Lines read in order into a fresh clip, how many of them are accepted, and the frames they leave as a
     // discrete clip writes them.
     QString const longName(5000, 'q');
@@ -165,29 +186,4 @@ TEST(ClipInfo, CopyAndAssignmentOfTheFrameList)
     TQ_ClipInfo& alias = copy;
     copy = alias;
     EXPECT_EQ(2, gan_list_get_size(copy.discreteFrameList()));
-}
-
-TEST(ClipInfo, HeaderCopyAndFileType)
-{
-    TQ_ClipInfo clip;
-    TQTest::vReadLines(clip, textOf("ClipInfo changed"));
-    gan_initialise_image_header_info(&clip.imageHeaderInfo, GAN_RGB_COLOUR_IMAGE, GAN_FLOAT);
-    clip.imageHeaderInfo.width = 2048;
-    std::unique_ptr<TQ_ClipInfo> const header(clip.copyHeaderInfo());
-    QStringList expected = textOf("ClipInfo defaults");
-    expected[20] = "Core.ImageFormatOfFile.value=4", expected[22] = "Core.ImageDataTypeOfFile.value=3";
-    EXPECT_EQ(expected, linesOf(*header));
-    EXPECT_EQ(0, std::memcmp(&clip.imageHeaderInfo, &header->imageHeaderInfo, sizeof clip.imageHeaderInfo));
-    EXPECT_TRUE(header->colourspace.equals(TQ_ClipInfo().colourspace, 0.0f) && !header->discreteFrameList());
-
-    // The file type: float wins over 8-bit, 8-bit over 16-bit; nothing changes without a conversion.
-    for (auto [gamma, floatFormat, eightBit, type] : {std::tuple{2.2f, 1, 1, GAN_FLOAT}, {2.2f, 0, 1, GAN_UCHAR},
-                                                      {2.2f, 0, 0, GAN_USHORT}, {1.0f, 1, 0, GAN_FLOAT},
-                                                      {1.0f, 0, 1, GAN_INT}}) {
-        TQ_ClipInfo typed;
-        typed.ImageDataTypeOfFile = GAN_INT, typed.colourspace.gamma = gamma;
-        typed.colourspace.floatFormat = _TQ_BOOL(floatFormat), typed.colourspace.eightBitFormat = _TQ_BOOL(eightBit);
-        typed.vRebuildDataTypeOfFile();
-        EXPECT_EQ(type, typed.ImageDataTypeOfFile) << gamma << floatFormat << eightBit;
-    }
 }
