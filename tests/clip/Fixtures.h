@@ -14,12 +14,6 @@
 
 #include <vector>
 
-/// Lets failures show texts as texts.
-inline void PrintTo(QString const& text, std::ostream* out)
-{
-    *out << '"' << text.toStdString() << '"';
-}
-
 namespace TQTest {
 
 /// A container of clips keyed by identity, as the application would keep them; unknown ids give null.
