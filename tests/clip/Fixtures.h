@@ -48,11 +48,12 @@ inline QStringList linesOf(Prm::ParameterSet& set, QString const& prefix = QStri
 /// qualifier first: a set reads lines relative to itself.
 inline void vReadLines(Prm::ParameterSet& set, QStringList const& lines)
 {
-    for (QString line : lines)
+    for (QString const& line : lines)
         EXPECT_TRUE(set.bStreamIn(line.startsWith("Core.") ? line.mid(5) : line)) << line.toStdString();
 }
 
-/// The non-empty lines of one section of the clip tests' texts, from its "[name]" line to the next section.
+/// The non-empty lines of one section of the clip tests' texts (from its "[name]" line to the next section),
+/// each behind `prefix`.
 inline QStringList textOf(QString const& section, QString const& prefix = "Core.")
 {
     QFile file(TQ_TEST_FOLDER "/../clip/data/Texts.txt");
