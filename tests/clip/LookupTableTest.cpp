@@ -122,7 +122,7 @@ TEST(LookupTable, FloatInputTablesLookUpThroughTheirFiveFloats)
     ASSERT_TRUE(gbCreate32BitFloatLogLinLookup(16, 0, 685, 95, 1, 0, forward.data()));
     ASSERT_TRUE(gbCreate16BitLinLogLookup(32, 0, 685, 95, 1, 0, table.data(), SEGMENTS(s), forward.data()));
     EXPECT_TRUE(s[1] == forward[0] && s[0] == 1 / (forward[64] - forward[0]));
-    double const gain = 1 / (1 - std::pow(10.0, double(float((95.0 - 685.0) * 0.002f)))); // the film curve to 1
+    double const gain = 1 / (1 - std::pow(10.0, double(float((95.0 - 685.0) * 0.002f)))); // of the film curve up to 1
     vExpectLookups(table, s, [&](float x) {
         return std::trunc((float(std::log((x + gain - 1.0) / gain) * dL) + 685.0f) * 64.0f + 0.5f);
     });
