@@ -1,7 +1,6 @@
 #include "bsc/Licence.h"
 #include "camera/CameraType.h"
 #include "camera/CameraTypeParameter.h"
-#include "camera/CriticalCapture.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +10,28 @@
 #include <tuple>
 
 using TQ::CameraType;
+
+namespace {
+
+/// Collects the messages sent to Qt's critical stream while alive.
+struct CriticalCapture {
+    static QStringList& messages()
+    {
+        static QStringList captured;
+        return captured;
+    }
+    CriticalCapture()
+    {
+        messages().clear();
+        qInstallMessageHandler([](QtMsgType type, QMessageLogContext const&, QString const& text) {
+            if (type == QtCriticalMsg)
+                messages() << text;
+        });
+    }
+    ~CriticalCapture() { qInstallMessageHandler(nullptr); }
+};
+
+} // namespace
 
 TEST(CameraType, InstancesAndOfferedTable)
 {

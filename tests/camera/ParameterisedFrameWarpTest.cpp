@@ -1,5 +1,5 @@
-#include "camera/ParameterTable.h"
 #include "camera/ParameterisedFrameWarp.h"
+#include "prm/ParameterTable.h"
 #include "prm/text/ParameterTextDocument.h"
 
 #include <gtest/gtest.h>
@@ -39,17 +39,11 @@ TQ::FrameWarp populated(TQ::ParameterisedFrameWarp const& set, float time)
 
 TEST(ParameterisedFrameWarp, LayoutNamesAndLimits)
 {
-    std::vector<ParameterRow> rows = {
-        {"LayerID", true, "0", 0.0, 4294967295.0, Prm::InterpolationStep, Prm::ExtrapolationHold},
-        {"ClipID", true, "0", dNoLimit, dNoLimit, Prm::InterpolationStep, Prm::ExtrapolationHold},
-        {"UseBackprojectionCamera", true, "0", dNoLimit, dNoLimit, Prm::InterpolationStep, Prm::ExtrapolationHold},
-        {"UseProjectionCamera", true, "0", dNoLimit, dNoLimit, Prm::InterpolationStep, Prm::ExtrapolationHold}};
-    for (char const* name : {"XX", "XY", "XZ", "YX", "YY", "YZ", "ZX", "ZY", "ZX"})
-        rows.push_back({QString("Homograpy") + name, true, "0", -dLargest, dLargest, Prm::InterpolationLinear,
-                        Prm::ExtrapolationLinear});
     TQ::ParameterisedFrameWarp const set;
     EXPECT_TRUE(set.qstrScriptName().isEmpty() && set.qstrDisplayName().isEmpty());
-    expectParameterTable(set, rows);
+    TQTest::expectParameterTable(set,
+#include "data/ParameterisedFrameWarp.table"
+    );
     EXPECT_EQ(set.parameterList().at(12), &set.Homography[8]) << "the second \"HomograpyZX\" is row 3, column 3";
     ASSERT_EQ(set.childSetList().size(), 2);
     EXPECT_EQ(set.childSetList().at(0), &set.BackprojectionCamera);

@@ -1,6 +1,6 @@
-#include "camera/ParameterTable.h"
 #include "camera/ParameterisedGanCamera.h"
 #include "gandalf/Camera.h"
+#include "prm/ParameterTable.h"
 #include "prm/text/ParameterTextDocument.h"
 
 #include <gtest/gtest.h>
@@ -23,18 +23,11 @@ std::unique_ptr<Gan_CubicBSplineWeights> weights(double scale)
 
 TEST(ParameterisedGanCamera, ParameterTable)
 {
-    std::vector<ParameterRow> rows = {
-        {"Type", true, "0", dNoLimit, dNoLimit, Prm::InterpolationStep, Prm::ExtrapolationHold}};
-    for (char const* name : {"Z", "Fx", "Fy", "X0", "Y0", "Distortion1", "Distortion2", "Distortion3", "Distortion4"})
-        rows.push_back({name, true, "0", 0.0, 10000.0, Prm::InterpolationLinear, Prm::ExtrapolationLinear});
-    for (int i = 0; i < 17; ++i)
-        for (int j = 0; j < 17; ++j)
-            for (char axis : {'X', 'Y'})
-                rows.push_back({QString("Weight-%1-%2%3").arg(i).arg(j).arg(axis), true, "0", -100.0, 100.0,
-                                Prm::InterpolationLinear, Prm::ExtrapolationLinear});
     TQ_ParameterisedGanCamera const source;
     EXPECT_EQ("GanCamera", source.qstrScriptName());
-    expectParameterTable(source, rows);
+    TQTest::expectParameterTable(source,
+#include "data/ParameterisedGanCamera.table"
+    );
     EXPECT_EQ(&source.X[0][16], source.findParameter("Weight-0-16X"));
 }
 
