@@ -1,4 +1,5 @@
 #include "camera/FrameWarp.h"
+#include "gandalf/Fixtures.h"
 
 #include <gtest/gtest.h>
 
@@ -48,15 +49,6 @@ void expectPoint(Gan_Vector3 const& p, double x, double y, double z, char const*
     EXPECT_TRUE(p.x == x && p.y == y && p.z == z) << what << ": " << p.x << ", " << p.y << ", " << p.z;
 }
 
-Gan_CubicBSplineWeights* ptGrid(double dSeed)
-{
-    auto* grid = new Gan_CubicBSplineWeights();
-    for (int i = 0; i < GAN_CUBIC_BSPLINE_GRID_SIZE; ++i)
-        for (int j = 0; j < GAN_CUBIC_BSPLINE_GRID_SIZE; ++j)
-            grid->weight[i][j] = Gan_Vector2{dSeed * std::sin(i * 0.7), dSeed * std::cos(j * 0.4)};
-    return grid;
-}
-
 bool bSameGrid(Gan_CubicBSplineWeights const* a, Gan_CubicBSplineWeights const* b)
 {
     return std::equal(&a->weight[0][0].x, &a->weight[0][0].x + 578, &b->weight[0][0].x);
@@ -66,17 +58,10 @@ bool bSameGrid(Gan_CubicBSplineWeights const* a, Gan_CubicBSplineWeights const* 
 
 TEST(FrameWarp, WarpThenUnwarpReturnsPointsForEveryLensOnEitherSide)
 {
-    // Maps that move a pixel right by one and back, on a 640 x 480 frame.
-    Gan_CameraMaps const maps{gan_image_alloc(GAN_VECTOR_FIELD_2D, GAN_FLOAT, 480, 640),
-                              gan_image_alloc(GAN_VECTOR_FIELD_2D, GAN_FLOAT, 480, 640)};
-    for (auto [image, dShift] : {std::pair{maps.direct, 1.0}, {maps.inverse, -1.0}})
-        for (unsigned long row = 0; row < 480; ++row)
-            for (unsigned long col = 0; col < 640; ++col) {
-                auto* pixel = static_cast<float*>(gan_image_get_pixptr(image, row, col));
-                pixel[0] = float(col + 0.5 + dShift);
-                pixel[1] = float(row + 0.5);
-            }
-    std::unique_ptr<Gan_CubicBSplineWeights> const grid(ptGrid(0.5));
+    // Maps that shrink by half about the centre and grow back, on a 640 x 480 frame.
+    auto const direct = TQTest::scaleMap(640, 480, 0.5), inverse = TQTest::scaleMap(640, 480, 2);
+    Gan_CameraMaps const maps{direct.get(), inverse.get()};
+    std::unique_ptr<Gan_CubicBSplineWeights> const grid = TQTest::gridWeights(0.5);
     auto const lens = [&](Gan_CameraType type, std::array<double, 4> d) {
         Gan_Camera c{type, {800}, {780}, {320}, {240}, {320}, {}, grid.get(), nullptr, nullptr, nullptr};
         std::copy(d.begin(), d.end(), c.d);
@@ -110,8 +95,6 @@ TEST(FrameWarp, WarpThenUnwarpReturnsPointsForEveryLensOnEitherSide)
                     EXPECT_NEAR(wy, y, 1e-6) << c.type << " at " << x << ", " << y;
                 }
         }
-    gan_image_free(maps.direct);
-    gan_image_free(maps.inverse);
 }
 
 TEST(FrameWarp, SetAttributesForcesFlagsOnAndFallsBackToIdentity)
@@ -146,7 +129,7 @@ TEST(FrameWarp, SetAttributesForcesFlagsOnAndFallsBackToIdentity)
 
 TEST(FrameWarp, WeightGridBuffersAreOwnedCopiedAndNeverCopiedOntoThemselves)
 {
-    std::unique_ptr<Gan_CubicBSplineWeights> const callerGrid(ptGrid(1.0));
+    std::unique_ptr<Gan_CubicBSplineWeights> const callerGrid = TQTest::gridWeights(1.0);
     Gan_Camera spline = stub(true, true, 1.0, GAN_CUBIC_BSPLINE_CAMERA);
     spline.weights = spline.weights_aux = callerGrid.get();
 
@@ -173,14 +156,14 @@ TEST(FrameWarp, WeightGridBuffersAreOwnedCopiedAndNeverCopiedOntoThemselves)
     // A camera whose grid is the argument itself is not copied; the warp owns and frees that memory.
     TQ::FrameWarp owner;
     Gan_Camera self = spline;
-    self.weights = ptGrid(5.0);
+    self.weights = TQTest::gridWeights(5.0).release();
     vSet(owner, self, translation, stub(true, true), self.weights, nullptr);
     EXPECT_TRUE(owner.ptBackprojectionWeights == self.weights && owner.tBackprojectionCamera.weights == self.weights);
 
     // A weights argument of a camera that does not use it passes to the warp all the same; one buffer given
     // for both sides is freed once.
     TQ::FrameWarp unused;
-    Gan_CubicBSplineWeights* const both = ptGrid(2.0);
+    Gan_CubicBSplineWeights* const both = TQTest::gridWeights(2.0).release();
     vSet(unused, stub(true, true), translation, stub(true, true), both, both);
     EXPECT_TRUE(unused.tBackprojectionCamera.weights == nullptr && unused.ptProjectionWeights == both);
 }
@@ -261,11 +244,11 @@ TEST(FrameWarp, WithoutCamerasTheImagePlaneScalesAndOverloadsBringTheirSidesZ)
 
 TEST(FrameWarp, CopiesAreDeep)
 {
-    std::unique_ptr<Gan_CubicBSplineWeights> const callerGrid(ptGrid(3.0));
+    std::unique_ptr<Gan_CubicBSplineWeights> const callerGrid = TQTest::gridWeights(3.0);
     Gan_Camera spline = stub(true, true, 1.0, GAN_CUBIC_BSPLINE_CAMERA), outside = stub(true, true);
     spline.weights = outside.weights = callerGrid.get();
     TQ::FrameWarp source, assigned;
-    vSet(source, spline, translation, outside, nullptr, ptGrid(4.0));
+    vSet(source, spline, translation, outside, nullptr, TQTest::gridWeights(4.0).release());
     vSet(assigned, spline, gan_mat33_ident_s(), spline);
     assigned = source;
     assigned = static_cast<TQ::FrameWarp const&>(assigned);
@@ -281,7 +264,7 @@ TEST(FrameWarp, CopiesAreDeep)
     }
     // One buffer behind both sides stays one buffer in the copy.
     TQ::FrameWarp twin;
-    Gan_CubicBSplineWeights* const both = ptGrid(1.0);
+    Gan_CubicBSplineWeights* const both = TQTest::gridWeights(1.0).release();
     vSet(twin, spline, translation, spline, both, both);
     TQ::FrameWarp const twinCopy(twin);
     EXPECT_TRUE(twinCopy.ptBackprojectionWeights == twinCopy.ptProjectionWeights
