@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <climits>
 #include <cmath>
 #include <cstring>
@@ -58,43 +57,25 @@ bool bSameGrid(Gan_CubicBSplineWeights const* a, Gan_CubicBSplineWeights const* 
 
 TEST(FrameWarp, WarpThenUnwarpReturnsPointsForEveryLensOnEitherSide)
 {
-    // Maps that shrink by half about the centre and grow back, on a 640 x 480 frame.
-    auto const direct = TQTest::scaleMap(640, 480, 0.5), inverse = TQTest::scaleMap(640, 480, 2);
-    Gan_CameraMaps const maps{direct.get(), inverse.get()};
-    std::unique_ptr<Gan_CubicBSplineWeights> const grid = TQTest::gridWeights(0.5);
-    auto const lens = [&](Gan_CameraType type, std::array<double, 4> d) {
-        Gan_Camera c{type, {800}, {780}, {320}, {240}, {320}, {}, grid.get(), nullptr, nullptr, nullptr};
-        std::copy(d.begin(), d.end(), c.d);
-        if (type == GAN_DISTORTION_MAP)
-            c.map = maps;
-        EXPECT_TRUE(gan_camera_internalize(&c)) << type;
-        return c;
-    };
-    Gan_Camera const linear = lens(GAN_LINEAR_CAMERA, {});
-    std::vector<Gan_Camera> cameras;
-    for (auto const& [type, d] : std::initializer_list<std::pair<Gan_CameraType, std::array<double, 4>>>{
-             {GAN_LINEAR_CAMERA, {}}, {GAN_RADIAL_DISTORTION_1, {-0.05}}, {GAN_RADIAL_DISTORTION_2, {-0.05, 0.01}},
-             {GAN_RADIAL_DISTORTION_3, {-0.05, 0.01, 0.001}}, {GAN_RADIAL_DISTORTION_1_INV, {0.03}},
-             {GAN_RADIAL_DISTORTION_2_INV, {0.03, 0.002}}, {GAN_STEREOGRAPHIC_CAMERA, {}}, {GAN_EQUIDISTANT_CAMERA, {}},
-             {GAN_SINE_LAW_CAMERA, {}}, {GAN_EQUI_SOLID_ANGLE_CAMERA, {}},
-             {GAN_XY_DISTORTION_4, {0.01, 0.02, 0.015, 0.005}}, {GAN_CUBIC_BSPLINE_CAMERA, {}},
-             {GAN_CUBIC_BSPLINE_CAMERA_INV, {}}, {GAN_DISTORTION_MAP, {}}})
-        cameras.push_back(lens(type, d));
     Gan_Matrix33 const h{1.02, 0.01, 0.01, -0.01, 0.98, -0.005, 0.01, -0.02, 1};
-    for (Gan_Camera const& c : cameras)
-        for (auto const& side : {std::make_pair(c, linear), std::make_pair(linear, c), std::make_pair(c, c)}) {
+    for (TQTest::Lens const& lens : TQTest::lenses()) {
+        Gan_Camera c = TQTest::cameraOf(lens);
+        Gan_Camera linear = TQTest::cameraOf({"", GAN_LINEAR_CAMERA, lens.f, {}, {}, {}, {}, lens.width, lens.height});
+        ASSERT_TRUE(gan_camera_internalize(&c) && gan_camera_internalize(&linear)) << lens.name;
+        for (auto const& [back, projection] : {std::pair{c, linear}, {linear, c}, {c, c}}) {
             TQ::FrameWarp warp;
-            vSet(warp, side.first, h, side.second);
-            for (double x = 180; x <= 460; x += 70)
-                for (double y = 130; y <= 350; y += 55) {
-                    double wx = x, wy = y;
+            vSet(warp, back, h, projection);
+            for (double x = 0.35; x < 0.7; x += 0.1)
+                for (double y = 0.35; y < 0.7; y += 0.1) {
+                    double wx = x * lens.width, wy = y * lens.height;
                     warp.vWarpPoint(wx, wy);
-                    EXPECT_GT(std::hypot(wx - x, wy - y), 0.1) << c.type << " did not map " << x << ", " << y;
+                    EXPECT_GT(std::hypot(wx - x * lens.width, wy - y * lens.height), 0.1) << lens.name << " did not map";
                     warp.vUnwarpPoint(wx, wy);
-                    EXPECT_NEAR(wx, x, 1e-6) << c.type << " at " << x << ", " << y;
-                    EXPECT_NEAR(wy, y, 1e-6) << c.type << " at " << x << ", " << y;
+                    EXPECT_NEAR(wx, x * lens.width, 1e-6) << lens.name << " at " << x << ", " << y;
+                    EXPECT_NEAR(wy, y * lens.height, 1e-6) << lens.name << " at " << x << ", " << y;
                 }
         }
+    }
 }
 
 TEST(FrameWarp, SetAttributesForcesFlagsOnAndFallsBackToIdentity)
