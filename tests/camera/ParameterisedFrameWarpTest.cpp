@@ -39,22 +39,17 @@ TQ::FrameWarp populated(TQ::ParameterisedFrameWarp const& set, float time)
 
 TEST(ParameterisedFrameWarp, LayoutNamesAndLimits)
 {
-    TQ::ParameterisedFrameWarp const set;
+    TQ::ParameterisedFrameWarp set;
     EXPECT_TRUE(set.qstrScriptName().isEmpty() && set.qstrDisplayName().isEmpty());
     TQTest::expectParameterTable(set,
 #include "data/ParameterisedFrameWarp.table"
     );
     EXPECT_EQ(set.parameterList().at(12), &set.Homography[8]) << "the second \"HomograpyZX\" is row 3, column 3";
-    ASSERT_EQ(set.childSetList().size(), 2);
-    EXPECT_EQ(set.childSetList().at(0), &set.BackprojectionCamera);
-    EXPECT_EQ(set.childSetList().at(1), &set.ProjectionCamera);
-    for (Prm::ParameterSet const* child : set.childSetList())
-        EXPECT_EQ(child->qstrScriptName(), "GanCamera");
-    EXPECT_EQ(set.BackprojectionCamera.qstrDisplayName(), "BackprojectionCamera");
-    EXPECT_EQ(set.ProjectionCamera.qstrDisplayName(), "ProjectionCamera");
+    EXPECT_EQ(set.childSetList(), (QVector<Prm::ParameterSet*>{&set.BackprojectionCamera, &set.ProjectionCamera}));
+    EXPECT_EQ(set.BackprojectionCamera.qstrDisplayName() + " " + set.ProjectionCamera.qstrDisplayName(),
+              "BackprojectionCamera ProjectionCamera");
     ASSERT_EQ(set.basicParameterList().size(), 1);
-    EXPECT_EQ(set.basicParameterList().at(0)->scriptName(), "Type");
-    EXPECT_EQ(static_cast<int>(set.Type), 0);
+    EXPECT_TRUE(set.basicParameterList().at(0)->scriptName() == "Type" && static_cast<int>(set.Type) == 0);
 }
 
 TEST(ParameterisedFrameWarp, FreshSetPopulatesAZeroWarpAndTouchesNothingElse)
