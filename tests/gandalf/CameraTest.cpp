@@ -11,22 +11,14 @@
 #include <memory>
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
-using TQTest::gridWeights;
-using TQTest::cameraOf;
-using TQTest::lenses;
-using TQTest::Lens;
-using TQTest::scaleMap;
+using namespace TQTest;
 
 namespace {
 
 double const kNaN = std::numeric_limits<double>::quiet_NaN();
-
-Gan_Vector3 pixelOf(Gan_Camera const& camera, double x, double y)
-{
-    return {camera.fx * x + camera.x0, camera.fy * y + camera.y0, camera.zh};
-}
 
 } // namespace
 
@@ -160,7 +152,8 @@ TEST(Camera, PointsOutsideTheDomainAndBadInputFailWithoutTouchingTheOutput)
         if (!std::isnan(c.distorted.z)) {
             // Normalised points of the domain cases become pixels; the bad points are given as they are.
             Gan_Vector3 const pixel =
-                c.distorted.z == 1 ? pixelOf(camera, c.distorted.x, c.distorted.y) : c.distorted;
+                c.distorted.z == 1 ? Gan_Vector3{camera.fx * c.distorted.x + camera.x0, camera.fy * c.distorted.y + camera.y0, camera.zh}
+                                   : c.distorted;
             error = 0;
             EXPECT_EQ(camera.point_backproject(&camera, &pixel, &out, nullptr, &error), GAN_FALSE);
             EXPECT_NE(error, 0);
@@ -195,38 +188,33 @@ TEST(Camera, MapsReadOnlyTheirOwnFrame)
 
 TEST(Camera, FishEyesFollowTheirAngleLawFromTheAxisToFarPointsAndBackprojectUpToTheLimit)
 {
-    // The laws from their angle definitions, theta = atan r, with the distorted radius at 90 degrees. The radii
-    // run from near the axis past where r^2 overflows.
-    struct {
-        Gan_CameraType type;
-        std::function<double(double)> radiusOfAngle;
-        double limit;
-    } const laws[] = {
+    // The laws from their angle definitions, theta = atan r, and the radius at 90 degrees, the back-projection's
+    // limit. The radii run from near the axis past where r^2 overflows.
+    std::tuple<Gan_CameraType, double (*)(double), double> const laws[] = {
         {GAN_STEREOGRAPHIC_CAMERA, [](double t) { return 2 * std::tan(t / 2); }, 2},
         {GAN_EQUIDISTANT_CAMERA, [](double t) { return t; }, M_PI / 2},
         {GAN_SINE_LAW_CAMERA, [](double t) { return std::sin(t); }, 1},
-        {GAN_EQUI_SOLID_ANGLE_CAMERA, [](double t) { return 2 * std::sin(t / 2); }, std::sqrt(2.0)},
-    };
-    for (auto const& law : laws) {
-        Gan_Camera camera{law.type, {1}, {1}, {0}, {0}, {1}, {}, nullptr, nullptr, nullptr, nullptr}; // pixels are normalised
+        {GAN_EQUI_SOLID_ANGLE_CAMERA, [](double t) { return 2 * std::sin(t / 2); }, std::sqrt(2.0)}};
+    for (auto [type, radiusOfAngle, limit] : laws) {
+        Gan_Camera camera{type, {1}, {1}, {0}, {0}, {1}, {}, nullptr, nullptr, nullptr, nullptr}; // pixels are normalised
         ASSERT_EQ(gan_camera_internalize(&camera), GAN_TRUE);
         for (double r : {1e-300, 1e-150, 1e-8, 0.1, 1.0, 10.0, 1e4, 1e8, 1e145, 1e150, 1e200, 1e300}) {
             Gan_Vector3 const point{0.6 * r, -0.8 * r, 1}; // off both axes
             Gan_Vector3 p{};
             ASSERT_EQ(camera.point_project(&camera, &point, &p, nullptr, nullptr, nullptr, nullptr), GAN_TRUE) << r;
-            double const rd = law.radiusOfAngle(std::atan(r));
-            EXPECT_NEAR(p.x / (0.6 * rd), 1, 1e-14) << law.type << " " << r;
-            EXPECT_NEAR(p.y / (-0.8 * rd), 1, 1e-14) << law.type << " " << r;
+            double const rd = radiusOfAngle(std::atan(r));
+            EXPECT_NEAR(p.x / (0.6 * rd), 1, 1e-14) << type << " " << r;
+            EXPECT_NEAR(p.y / (-0.8 * rd), 1, 1e-14) << type << " " << r;
         }
         // Back-projection below the limit inverts the law; at the limit it fails and leaves the output.
         for (double fraction : {1e-200, 1e-6, 0.3, 0.9, 0.999999}) {
-            double const rd = fraction * law.limit;
+            double const rd = fraction * limit;
             Gan_Vector3 p{0.8 * rd, 0.6 * rd, 1};
             ASSERT_EQ(camera.point_backproject(&camera, &p, &p, nullptr, nullptr), GAN_TRUE) << fraction;
-            EXPECT_NEAR(law.radiusOfAngle(std::atan(std::hypot(p.x, p.y))) / rd, 1, 1e-9) << law.type << " " << fraction;
+            EXPECT_NEAR(radiusOfAngle(std::atan(std::hypot(p.x, p.y))) / rd, 1, 1e-9) << type << " " << fraction;
             EXPECT_NEAR(p.x / p.y, 0.8 / 0.6, 1e-12) << fraction;
         }
-        Gan_Vector3 const edge{law.limit, 0, 1};
+        Gan_Vector3 const edge{limit, 0, 1};
         Gan_Vector3 out{7, 8, 9};
         EXPECT_EQ(camera.point_backproject(&camera, &edge, &out, nullptr, nullptr), GAN_FALSE);
         EXPECT_EQ(out.x, 7);
