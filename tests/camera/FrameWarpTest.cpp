@@ -9,6 +9,7 @@
 #include <cstring>
 #include <limits>
 #include <memory>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -108,7 +109,7 @@ TEST(FrameWarp, SetAttributesForcesFlagsOnAndFallsBackToIdentity)
     }
 }
 
-TEST(FrameWarp, WeightGridBuffersAreOwnedCopiedAndNeverCopiedOntoThemselves)
+TEST(FrameWarp, WeightGridBuffersAreOwnedCopiedDeeplyAndNeverCopiedOntoThemselves)
 {
     std::unique_ptr<Gan_CubicBSplineWeights> const callerGrid = TQTest::gridWeights(1.0);
     Gan_Camera spline = stub(true, true, 1.0, GAN_CUBIC_BSPLINE_CAMERA);
@@ -144,37 +145,50 @@ TEST(FrameWarp, WeightGridBuffersAreOwnedCopiedAndNeverCopiedOntoThemselves)
     // A weights argument of a camera that does not use it passes to the warp all the same; one buffer given
     // for both sides is freed once.
     TQ::FrameWarp unused;
+    Gan_Camera outside = stub(true, true);
+    outside.weights = callerGrid.get();
     Gan_CubicBSplineWeights* const both = TQTest::gridWeights(2.0).release();
-    vSet(unused, stub(true, true), translation, stub(true, true), both, both);
+    vSet(unused, stub(true, true), translation, outside, both, both);
     EXPECT_TRUE(unused.tBackprojectionCamera.weights == nullptr && unused.ptProjectionWeights == both);
+
+    // Copies are deep: each buffer is copied and a camera follows its own copy; memory outside the warp stays
+    // shared, and one buffer behind both sides stays one buffer.
+    TQ::FrameWarp assigned;
+    assigned = warp;
+    assigned = static_cast<TQ::FrameWarp const&>(assigned);
+    TQ::FrameWarp const constructed(warp), twin(unused);
+    for (TQ::FrameWarp const* copy : {static_cast<TQ::FrameWarp const*>(&assigned), &constructed}) {
+        EXPECT_TRUE(copy->ptBackprojectionWeights != held && copy->ptProjectionWeights != warp.ptProjectionWeights);
+        EXPECT_TRUE(copy->tBackprojectionCamera.weights == copy->ptBackprojectionWeights
+                    && copy->tProjectionCamera.weights == copy->ptProjectionWeights);
+        EXPECT_TRUE(bSameGrid(copy->ptBackprojectionWeights, held) && bSameGrid(copy->ptProjectionWeights, held));
+        EXPECT_EQ(copy->tInverseHomography.xz, -5.0);
+    }
+    EXPECT_TRUE(twin.ptBackprojectionWeights == twin.ptProjectionWeights && twin.ptProjectionWeights != both);
+    EXPECT_EQ(twin.tProjectionCamera.weights, callerGrid.get());
 }
 
 TEST(FrameWarp, FailedCameraCallsRestoreOrLeaveThePoint)
 {
-    // Which call fails, and the results of warping and unwarping (1, 2, 1) through a translation by 5.
-    struct {
-        bool bBackBackprojects, bBackProjects, bProjectionBackprojects, bProjectionProjects;
-        double dWarpedX, dUnwarpedX;
-        char const* what;
-    } const rows[] = {
-        {true, true, true, true, 6, -4, "all succeed"},
-        {false, true, true, true, 42, -4, "back-projection fails in the warp: left as the camera left it"},
-        {true, true, true, false, 1, -4, "projection fails in the warp: restored"},
-        {true, true, false, true, 6, 1, "first step of the unwarp fails: restored"},
-        {true, false, true, true, 6, 1, "last step of the unwarp fails: restored"},
-    };
-    for (auto const& row : rows) {
+    // Whether the back camera back-projects and projects, whether the projection camera does, the results of
+    // warping and unwarping (1, 2, 1) through a translation by 5, and why.
+    using Row = std::tuple<bool, bool, bool, bool, double, double, char const*>;
+    for (auto [bBackBack, bBackProjects, bProjectionBack, bProjectionProjects, dWarpedX, dUnwarpedX, what] :
+         {Row{true, true, true, true, 6, -4, "all succeed"},
+          Row{false, true, true, true, 42, -4, "back-projection fails in the warp: left as the camera left it"},
+          Row{true, true, true, false, 1, -4, "projection fails in the warp: restored"},
+          Row{true, true, false, true, 6, 1, "first step of the unwarp fails: restored"},
+          Row{true, false, true, true, 6, 1, "last step of the unwarp fails: restored"}}) {
         TQ::FrameWarp warp;
-        vSet(warp, stub(row.bBackProjects, row.bBackBackprojects), translation,
-             stub(row.bProjectionProjects, row.bProjectionBackprojects));
+        vSet(warp, stub(bBackProjects, bBackBack), translation, stub(bProjectionProjects, bProjectionBack));
         Gan_Vector3 p{1, 2, 1}, q{1, 2, 1};
         warp.vWarpPoint(p);
-        expectPoint(p, row.dWarpedX, 2, 1, row.what);
+        expectPoint(p, dWarpedX, 2, 1, what);
         warp.vUnwarpPoint(q);
-        expectPoint(q, row.dUnwarpedX, 2, 1, row.what);
+        expectPoint(q, dUnwarpedX, 2, 1, what);
         float x = 0.1f, y = -7.3f;
         warp.vWarpPoint(x, y);
-        EXPECT_TRUE(row.dWarpedX != 1 || (x == 0.1f && y == -7.3f)) << "float form: " << row.what;
+        EXPECT_TRUE(dWarpedX != 1 || (x == 0.1f && y == -7.3f)) << "float form: " << what;
     }
 }
 
@@ -221,33 +235,4 @@ TEST(FrameWarp, WithoutCamerasTheImagePlaneScalesAndOverloadsBringTheirSidesZ)
     Gan_Vector3 n{5, 6, dNaN};
     warp.vWarpPoint(n);
     EXPECT_TRUE(std::isnan(n.x) && std::isnan(n.y) && n.z == 4.0);
-}
-
-TEST(FrameWarp, CopiesAreDeep)
-{
-    std::unique_ptr<Gan_CubicBSplineWeights> const callerGrid = TQTest::gridWeights(3.0);
-    Gan_Camera spline = stub(true, true, 1.0, GAN_CUBIC_BSPLINE_CAMERA), outside = stub(true, true);
-    spline.weights = outside.weights = callerGrid.get();
-    TQ::FrameWarp source, assigned;
-    vSet(source, spline, translation, outside, nullptr, TQTest::gridWeights(4.0).release());
-    vSet(assigned, spline, gan_mat33_ident_s(), spline);
-    assigned = source;
-    assigned = static_cast<TQ::FrameWarp const&>(assigned);
-    TQ::FrameWarp const constructed(source);
-    for (TQ::FrameWarp const* copy : {static_cast<TQ::FrameWarp const*>(&assigned), &constructed}) {
-        EXPECT_TRUE(copy->ptBackprojectionWeights != source.ptBackprojectionWeights
-                    && copy->ptProjectionWeights != source.ptProjectionWeights);
-        EXPECT_EQ(copy->tBackprojectionCamera.weights, copy->ptBackprojectionWeights) << "follows its own buffer";
-        EXPECT_EQ(copy->tProjectionCamera.weights, callerGrid.get()) << "memory outside the warp stays shared";
-        EXPECT_TRUE(bSameGrid(copy->ptBackprojectionWeights, callerGrid.get())
-                    && bSameGrid(copy->ptProjectionWeights, source.ptProjectionWeights));
-        EXPECT_EQ(copy->tInverseHomography.xz, -5.0);
-    }
-    // One buffer behind both sides stays one buffer in the copy.
-    TQ::FrameWarp twin;
-    Gan_CubicBSplineWeights* const both = TQTest::gridWeights(1.0).release();
-    vSet(twin, spline, translation, spline, both, both);
-    TQ::FrameWarp const twinCopy(twin);
-    EXPECT_TRUE(twinCopy.ptBackprojectionWeights == twinCopy.ptProjectionWeights
-                && twinCopy.tProjectionCamera.weights == twinCopy.ptProjectionWeights);
 }
