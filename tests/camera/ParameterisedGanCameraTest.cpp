@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <tuple>
 
 namespace {
 
@@ -36,37 +37,33 @@ TEST(ParameterisedGanCamera, ParameterTable)
 TEST(ParameterisedGanCamera, SetFromGanCameraClampsAndStoresWhatTheModelUses)
 {
     // Per type: how many distortion slots and whether the grid are keyed, besides the six common values.
-    struct {
-        int iType, iDistortions;
-        bool bGrid;
-    } const rows[] = {{0, 0, false},  {1, 1, false},  {2, 2, false}, {3, 3, false},  {4, 1, false},
-                      {5, 0, false},  {9, 4, false},  {12, 0, true}, {13, 0, true},  {14, 2, false},
-                      {15, 0, false}, {-3, 0, false}, {11, 0, false}};
     auto const table = weights(10.0);
-    for (auto const& row : rows) {
-        Gan_Camera gan{static_cast<Gan_CameraType>(row.iType), {20000.0}, {-1.0}, {960.0}, {540.0}, {500.0}, {},
+    for (auto [iType, iDistortions, bGrid] :
+         {std::tuple{0, 0, false}, {1, 1, false}, {2, 2, false}, {3, 3, false}, {4, 1, false}, {5, 0, false},
+          {9, 4, false}, {12, 0, true}, {13, 0, true}, {14, 2, false}, {15, 0, false}, {-3, 0, false}, {11, 0, false}}) {
+        Gan_Camera gan{static_cast<Gan_CameraType>(iType), {20000.0}, {-1.0}, {960.0}, {540.0}, {500.0}, {},
                        table.get(), nullptr, nullptr, nullptr};
         std::copy_n(std::initializer_list<double>{0.5, -0.1, 3.0, 20000.0}.begin(), 4, gan.d);
         TQ_ParameterisedGanCamera camera;
         camera.setFromGanCamera(gan, 5.0f);
         QVector<Prm::ParameterWithoutType*> const parameters = camera.parameterList();
         for (int i = 0; i < parameters.size(); ++i)
-            EXPECT_EQ(i < 6 + row.iDistortions || (row.bGrid && i >= 10), parameters[i]->keyframeCount() == 1)
-                << "type " << row.iType << " parameter " << i;
+            EXPECT_EQ(i < 6 + iDistortions || (bGrid && i >= 10), parameters[i]->keyframeCount() == 1)
+                << "type " << iType << " parameter " << i;
 
         Gan_Camera back = {};
         Gan_CubicBSplineWeights written = {};
         back.weights = &written;
         camera.populateGanCamera(back, 5.0f);
-        EXPECT_TRUE(int(back.type) == row.iType && back.zh == 500.0);
+        EXPECT_TRUE(int(back.type) == iType && back.zh == 500.0);
         EXPECT_TRUE(back.fx == 10000.0 && back.fy == 0.0) << "limits";
         double const coefficients[4] = {0.5, 0.0, 3.0, 10000.0}; // -0.1 is below the limit of 0
         for (int i = 0; i < 4; ++i)
-            EXPECT_EQ(i < row.iDistortions ? coefficients[i] : 0.0, back.d[i]) << "type " << row.iType << " slot " << i;
+            EXPECT_EQ(i < iDistortions ? coefficients[i] : 0.0, back.d[i]) << "type " << iType << " slot " << i;
         // Weight (16, 16) is 160.16, stored at the limit 100; (1, 2) is 10.2 as a float.
-        EXPECT_EQ(row.bGrid ? 100.0 : 0.0, written.weight[16][16].x) << "type " << row.iType;
-        EXPECT_EQ(row.bGrid ? -100.0 : 0.0, written.weight[16][16].y);
-        EXPECT_EQ(row.bGrid ? double(10.2f) : 0.0, written.weight[1][2].x);
+        EXPECT_EQ(bGrid ? 100.0 : 0.0, written.weight[16][16].x) << "type " << iType;
+        EXPECT_EQ(bGrid ? -100.0 : 0.0, written.weight[16][16].y);
+        EXPECT_EQ(bGrid ? double(10.2f) : 0.0, written.weight[1][2].x);
     }
 
     // A grid model without a table keys no grid, and populating it allocates nothing.
