@@ -16,16 +16,21 @@ namespace {
 
 using Frames = QList<unsigned int>;
 
-/// An image provider that records its calls and hands out one image per clip id.
+/// An image provider that records its calls and hands out one image for each of clips 7 and 8.
 struct Provider {
     using Call = std::tuple<unsigned int, unsigned int, unsigned int, int>;
     std::vector<Call> calls;
     boost::shared_ptr<Gan_Image> direct = boost::make_shared<Gan_Image>();
     boost::shared_ptr<Gan_Image> inverse = boost::make_shared<Gan_Image>();
 
-    void vInstall(TQ_CameraParameterSet& set)
+    /// Makes `set` a map lens on clips 7 and 8, with this provider when `bProvide`.
+    void vInstall(TQ_CameraParameterSet& set, bool bProvide = true)
     {
-        set.imageProvider = [this](unsigned int clipId, unsigned int frame, unsigned int zero, _TQ_PROXY_SCALE scale) {
+        set.Type.vSetValue(GAN_DISTORTION_MAP, 0.0f);
+        set.directSTMapClipID.vSetValue(7, 0.0f);
+        set.inverseSTMapClipID.vSetValue(8, 0.0f);
+        if (bProvide)
+            set.imageProvider = [this](unsigned int clipId, unsigned int frame, unsigned int zero, _TQ_PROXY_SCALE scale) {
             calls.emplace_back(clipId, frame, zero, int(scale));
             return clipId == 7 ? direct : clipId == 8 ? inverse : boost::shared_ptr<Gan_Image>();
         };
@@ -33,14 +38,6 @@ struct Provider {
     /// Calls since the last look, cleared.
     std::size_t uiTaken() { return std::exchange(calls, {}).size(); }
 };
-
-/// The map model, on clips 7 and 8.
-void vMapLens(TQ_CameraParameterSet& set)
-{
-    set.Type.vSetValue(GAN_DISTORTION_MAP, 0.0f);
-    set.directSTMapClipID.vSetValue(7, 0.0f);
-    set.inverseSTMapClipID.vSetValue(8, 0.0f);
-}
 
 } // namespace
 
@@ -116,7 +113,8 @@ TEST(CameraParameterSet, HashFeedsTheLensAndClipValuesInOrderAsTheirBytes)
     for (auto [type, bProvider, bAddresses] : {std::tuple{GAN_RADIAL_DISTORTION_2, true, false},
                                                {GAN_DISTORTION_MAP, false, false}, {GAN_DISTORTION_MAP, true, true}}) {
         TQ_CameraParameterSet set;
-        vMapLens(set);
+        Provider provider;
+        provider.vInstall(set, bProvider);
         set.Type.vSetValue(type, 0.0f);
         set.FocalDistance.vSetValue(35.0f, 0.0f);
         set.FocalDistance.vSetValue(45.0f, 10.0f); // animated: frame 5 stays frame 5
@@ -125,9 +123,6 @@ TEST(CameraParameterSet, HashFeedsTheLensAndClipValuesInOrderAsTheirBytes)
         set.RadialK2.vSetMaximum(20.0f); // hashed as read, within the limits
         set.CYY.vSetValue(-3.0f, 0.0f);
         set.DistortionActive.vSetValue(false, 0.0f);
-        Provider provider;
-        if (bProvider)
-            provider.vInstall(set);
         TQ_BaseClipInfo const info = clipOf(TQ_INTERLACE_FIELDS_2, 1.5);
         set.getCamera(5, &info);
 
@@ -148,7 +143,6 @@ TEST(CameraParameterSet, HashFeedsTheLensAndClipValuesInOrderAsTheirBytes)
 TEST(CameraParameterSet, ImageProviderIsAskedForTheHashAndForEachRebuild)
 {
     TQ_CameraParameterSet set;
-    vMapLens(set);
     Provider provider;
     provider.vInstall(set);
     TQ_BaseClipInfo info = clipOf(TQ_INTERLACE_FIELDS_1);
@@ -192,7 +186,6 @@ TEST(CameraParameterSet, ImageProviderIsAskedForTheHashAndForEachRebuild)
 TEST(CameraParameterSet, CopyHasNoProviderNorCacheAndAssignmentKeepsThem)
 {
     TQ_CameraParameterSet source;
-    vMapLens(source);
     source.FocalDistance.vSetMaximum(80.0f);
     source.FocalDistance.vSetValue(35.0f, 2.0f);
     Provider provider;
