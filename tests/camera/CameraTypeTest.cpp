@@ -30,10 +30,12 @@ void vCaptureCriticals()
 TEST(CameraType, InstancesAndOfferedTable)
 {
     using Row = std::tuple<CameraType const&, int, char const*, int>; // instance, id, name, Gandalf model
-    Row const rows[] = {{CameraType::LINEAR(), 0, "No distortion", 0}, {CameraType::ONE_PARAMETER(), 1, "1-Parameter", 1},
+    Row const rows[] = {{CameraType::LINEAR(), 0, "No distortion", 0},
+                        {CameraType::ONE_PARAMETER(), 1, "1-Parameter", 1},
                         {CameraType::TWO_PARAMETER(), 2, "2-Parameter", 2},
                         {CameraType::ONE_PARAMETER_INV(), 3, "1-Parameter Inv", 4},
-                        {CameraType::ANAMORPHIC(), 4, "Anamorphic", 9}, {CameraType::DISTORTION_MAP(), 5, "Distortion Map", 15}};
+                        {CameraType::ANAMORPHIC(), 4, "Anamorphic", 9},
+                        {CameraType::DISTORTION_MAP(), 5, "Distortion Map", 15}};
     QStringList names;
     for (auto const& [type, iId, name, iGan] : rows) {
         EXPECT_TRUE(type.id == iId && type.name == name && int(type.ganType) == iGan) << name;
@@ -66,6 +68,7 @@ TEST(CameraType, UnknownIdsAndModelsReadAsLinearWithAMessage)
         EXPECT_EQ(&CameraType::LINEAR(), &type);
         EXPECT_EQ(QStringList{message}, criticals);
     }
+    qInstallMessageHandler(nullptr);
 }
 
 // The table is filled once per process, so a refusing licence is tried in a process of its own.

@@ -80,7 +80,9 @@ TEST(FilmType, BestMatchForSizeAndPAR)
         TQ::FilmType const match = query == "size" ? TQ_FilmTypeFactory::bestMatchForSize(QSize(w, h), bDoubled)
                                                    : TQ_FilmTypeFactory::bestMatchForPAR(dPar, QSize(w, h), bDoubled);
         QString const custom = QString("custom %1 x %2").arg(match.filmBackWidth).arg(match.filmBackHeight);
-        QString const chosen = match.isCustom() ? custom : match.name.isNull() && !match.isValid() ? "none" : match.name;
+        QString const chosen = match.isCustom()                              ? custom
+                               : match.name.isNull() && !match.isValid() ? "none"
+                                                                         : match.name;
         EXPECT_EQ(expected, chosen.toStdString()) << query.toStdString() << " " << dPar << " " << w << "x" << h;
     }
 }

@@ -70,7 +70,7 @@ TEST(FrameWarp, WarpThenUnwarpReturnsPointsForEveryLensOnEitherSide)
                 for (double y = 0.35; y < 0.7; y += 0.1) {
                     double wx = x * lens.width, wy = y * lens.height;
                     warp.vWarpPoint(wx, wy);
-                    EXPECT_GT(std::hypot(wx - x * lens.width, wy - y * lens.height), 0.1) << lens.name << " did not map";
+                    EXPECT_GT(std::hypot(wx - x * lens.width, wy - y * lens.height), 0.1) << lens.name << " unmoved";
                     warp.vUnwarpPoint(wx, wy);
                     EXPECT_NEAR(wx, x * lens.width, 1e-6) << lens.name << " at " << x << ", " << y;
                     EXPECT_NEAR(wy, y * lens.height, 1e-6) << lens.name << " at " << x << ", " << y;

@@ -31,7 +31,7 @@ TEST(ParameterisedGanCamera, ParameterTable)
     );
     EXPECT_EQ(&source.X[0][16], source.findParameter("Weight-0-16X"));
     QString const text = Prm::ParameterTextDocument(source).qstrWrite();
-    EXPECT_TRUE(text.split('\n', Qt::SkipEmptyParts).last().startsWith("GanCamera.Weight-16-16Y")) << "the text's order";
+    EXPECT_TRUE(text.split('\n', Qt::SkipEmptyParts).last().startsWith("GanCamera.Weight-16-16Y")) << "text order";
 }
 
 TEST(ParameterisedGanCamera, SetFromGanCameraClampsAndStoresWhatTheModelUses)
@@ -40,7 +40,8 @@ TEST(ParameterisedGanCamera, SetFromGanCameraClampsAndStoresWhatTheModelUses)
     auto const table = weights(10.0);
     for (auto [iType, iDistortions, bGrid] :
          {std::tuple{0, 0, false}, {1, 1, false}, {2, 2, false}, {3, 3, false}, {4, 1, false}, {5, 0, false},
-          {9, 4, false}, {12, 0, true}, {13, 0, true}, {14, 2, false}, {15, 0, false}, {-3, 0, false}, {11, 0, false}}) {
+          {9, 4, false}, {12, 0, true}, {13, 0, true}, {14, 2, false}, {15, 0, false}, {-3, 0, false},
+          {11, 0, false}}) {
         Gan_Camera gan{static_cast<Gan_CameraType>(iType), {20000.0}, {-1.0}, {960.0}, {540.0}, {500.0}, {},
                        table.get(), nullptr, nullptr, nullptr};
         std::copy_n(std::initializer_list<double>{0.5, -0.1, 3.0, 20000.0}.begin(), 4, gan.d);

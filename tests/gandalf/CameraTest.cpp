@@ -121,9 +121,9 @@ TEST(Camera, PointsOutsideTheDomainAndBadInputFailWithoutTouchingTheOutput)
         }
         if (!std::isnan(c.distorted.z)) {
             // Normalised points of the domain cases become pixels; the bad points are given as they are.
+            Gan_Vector3 const& d = c.distorted;
             Gan_Vector3 const pixel =
-                c.distorted.z == 1 ? Gan_Vector3{camera.fx * c.distorted.x + camera.x0, camera.fy * c.distorted.y + camera.y0, camera.zh}
-                                   : c.distorted;
+                d.z == 1 ? Gan_Vector3{camera.fx * d.x + camera.x0, camera.fy * d.y + camera.y0, camera.zh} : d;
             error = 0;
             EXPECT_EQ(camera.point_backproject(&camera, &pixel, &out, nullptr, &error), GAN_FALSE);
             EXPECT_NE(error, 0);
@@ -166,7 +166,8 @@ TEST(Camera, FishEyesFollowTheirAngleLawFromTheAxisToFarPointsAndBackprojectUpTo
         {GAN_SINE_LAW_CAMERA, [](double t) { return std::sin(t); }, 1},
         {GAN_EQUI_SOLID_ANGLE_CAMERA, [](double t) { return 2 * std::sin(t / 2); }, std::sqrt(2.0)}};
     for (auto [type, radiusOfAngle, limit] : laws) {
-        Gan_Camera camera{type, {1}, {1}, {0}, {0}, {1}, {}, nullptr, nullptr, nullptr, nullptr}; // pixels are normalised
+        // Pixels are normalised coordinates.
+        Gan_Camera camera{type, {1}, {1}, {0}, {0}, {1}, {}, nullptr, nullptr, nullptr, nullptr};
         ASSERT_EQ(gan_camera_internalize(&camera), GAN_TRUE);
         for (double r : {1e-300, 1e-150, 1e-8, 0.1, 1.0, 10.0, 1e4, 1e8, 1e145, 1e150, 1e200, 1e300}) {
             Gan_Vector3 const point{0.6 * r, -0.8 * r, 1}; // off both axes

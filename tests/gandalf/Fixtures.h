@@ -81,7 +81,8 @@ inline std::vector<Lens> lenses()
                              {"equi-solid-angle", GAN_EQUI_SOLID_ANGLE_CAMERA, 800}})
         all.push_back(lens);
     // Undistorted points spread out by 2 about the centre; the inverse brings them back.
-    all.push_back({"distortion map", GAN_DISTORTION_MAP, 50, {}, {}, scaleMap(64, 32, 2), scaleMap(64, 32, 0.5), 64, 32});
+    all.push_back(
+        {"distortion map", GAN_DISTORTION_MAP, 50, {}, {}, scaleMap(64, 32, 2), scaleMap(64, 32, 0.5), 64, 32});
     return all;
 }
 

@@ -47,7 +47,8 @@ inline QStringList parameterRowOf(Prm::ParameterWithoutType const& parameter)
             numeric ? qstrLimit(QString::number(numeric->minAsDouble(), 'g', 17), kind) : "",
             numeric ? qstrLimit(QString::number(numeric->maxAsDouble(), 'g', 17), kind) : "",
             rule(parameter.interpolation(0.0f), "step"), extrapolation,
-            parameter.qstrDisplayName() == name ? "" : parameter.qstrDisplayName(), parameter.isHidden() ? "yes" : "no"};
+            parameter.qstrDisplayName() == name ? "" : parameter.qstrDisplayName(),
+            parameter.isHidden() ? "yes" : "no"};
 }
 
 /// Expects the parameters of `set` to be the rows of `table`, in order.
