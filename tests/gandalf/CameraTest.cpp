@@ -102,12 +102,10 @@ TEST(Camera, PointsOutsideTheDomainAndBadInputFailWithoutTouchingTheOutput)
     };
     for (Case const& c : cases) {
         SCOPED_TRACE(c.name);
-        Lens lens{c.name, c.type, 1000, c.d, std::make_shared<Gan_CubicBSplineWeights>(*w)};
-        if (c.type == GAN_DISTORTION_MAP) {
-            lens.direct = scaleMap(8, 8, 1);
-            lens.inverse = scaleMap(8, 8, 1);
-        }
-        Gan_Camera camera = cameraOf(lens);
+        bool const bMap = c.type == GAN_DISTORTION_MAP;
+        Lens const lens{c.name, c.type, 1000, c.d, std::make_shared<Gan_CubicBSplineWeights>(*w),
+                        bMap ? scaleMap(8, 8, 1) : nullptr, bMap ? scaleMap(8, 8, 1) : nullptr};
+        Gan_Camera camera = cameraOf(lens); // borrows the lens's grid and maps
         if (c.spoil)
             c.spoil(camera);
         bool const bHasModel = c.type >= 0 && c.type <= 15 && c.type != 10 && c.type != 11;
