@@ -219,11 +219,9 @@ TEST(FrameWarp, WithoutCamerasTheImagePlaneScalesAndOverloadsBringTheirSidesZ)
         EXPECT_EQ(d, 6.0);
 
     // The result is taken at float precision and truncated toward zero.
-    struct {
-        QPointF in, out;
-    } const rows[] = {{{5.45, -1.95}, {10, -3}}, {{dNaN, 3e10}, {INT_MIN, INT_MIN}}};
-    for (auto const& row : rows)
-        EXPECT_EQ(warp.getPointWarped(row.in), row.out) << row.in.x();
+    for (auto [in, out] :
+         {std::pair{QPointF(5.45, -1.95), QPointF(10, -3)}, {QPointF(dNaN, 3e10), QPointF(INT_MIN, INT_MIN)}})
+        EXPECT_EQ(warp.getPointWarped(in), out) << in.x();
 
     // A zero z after the product restores the point; a NaN z is not zero and goes on.
     warp.tHomography = warp.tInverseHomography = Gan_Matrix33{1, 0, 0, 0, 1, 0, 0, 0, 0};
