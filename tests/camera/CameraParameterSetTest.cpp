@@ -29,8 +29,9 @@ struct Provider {
         set.Type.vSetValue(GAN_DISTORTION_MAP, 0.0f);
         set.directSTMapClipID.vSetValue(7, 0.0f);
         set.inverseSTMapClipID.vSetValue(8, 0.0f);
-        if (bProvide)
-            set.imageProvider = [this](unsigned int clipId, unsigned int frame, unsigned int zero, _TQ_PROXY_SCALE scale) {
+        if (!bProvide)
+            return;
+        set.imageProvider = [this](unsigned int clipId, unsigned int frame, unsigned int zero, _TQ_PROXY_SCALE scale) {
             calls.emplace_back(clipId, frame, zero, int(scale));
             return clipId == 7 ? direct : clipId == 8 ? inverse : boost::shared_ptr<Gan_Image>();
         };
