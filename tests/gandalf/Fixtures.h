@@ -45,6 +45,7 @@ struct Lens {
 };
 
 /// The lens as a Gandalf camera centred on its frame, with the image plane at half the width; not internalised.
+/// The camera borrows the lens's grid and maps: the lens must outlive it.
 inline Gan_Camera cameraOf(Lens const& lens)
 {
     Gan_Camera camera{lens.type, {lens.f}, {lens.f}, {lens.width / 2}, {lens.height / 2}, {lens.width / 2}, {},
