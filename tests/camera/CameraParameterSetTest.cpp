@@ -1,9 +1,9 @@
 #include "camera/CameraParameterSet.h"
-#include "camera/Clips.h"
-#include "camera/ParameterTable.h"
+#include "camera/Fixtures.h"
 #include "gandalf/Image.h"
 #include "gandalf/LineFeature.h"
 #include "prm/Fixtures.h"
+#include "prm/ParameterTable.h"
 
 #include <gtest/gtest.h>
 
@@ -16,20 +16,21 @@ namespace {
 
 using Frames = QList<unsigned int>;
 
-TQ_BaseClipInfo clip(_TQ_INTERLACE_MODE mode = TQ_INTERLACE_NONE)
-{
-    return clipOf(2048, 1152, mode);
-}
-
-/// An image provider that records its calls and hands out one image per clip id.
+/// An image provider that records its calls and hands out one image for each of clips 7 and 8.
 struct Provider {
     using Call = std::tuple<unsigned int, unsigned int, unsigned int, int>;
     std::vector<Call> calls;
     boost::shared_ptr<Gan_Image> direct = boost::make_shared<Gan_Image>();
     boost::shared_ptr<Gan_Image> inverse = boost::make_shared<Gan_Image>();
 
-    void vInstall(TQ_CameraParameterSet& set)
+    /// Makes `set` a map lens on clips 7 and 8, with this provider when `bProvide`.
+    void vInstall(TQ_CameraParameterSet& set, bool bProvide = true)
     {
+        set.Type.vSetValue(GAN_DISTORTION_MAP, 0.0f);
+        set.directSTMapClipID.vSetValue(7, 0.0f);
+        set.inverseSTMapClipID.vSetValue(8, 0.0f);
+        if (!bProvide)
+            return;
         set.imageProvider = [this](unsigned int clipId, unsigned int frame, unsigned int zero, _TQ_PROXY_SCALE scale) {
             calls.emplace_back(clipId, frame, zero, int(scale));
             return clipId == 7 ? direct : clipId == 8 ? inverse : boost::shared_ptr<Gan_Image>();
@@ -39,82 +40,41 @@ struct Provider {
     std::size_t uiTaken() { return std::exchange(calls, {}).size(); }
 };
 
-/// The map model, on clips 7 and 8.
-void vMapLens(TQ_CameraParameterSet& set)
-{
-    set.Type.vSetValue(GAN_DISTORTION_MAP, 0.0f);
-    set.directSTMapClipID.vSetValue(7, 0.0f);
-    set.inverseSTMapClipID.vSetValue(8, 0.0f);
-}
-
 } // namespace
 
-TEST(CameraParameterSet, ParameterTable)
+TEST(CameraParameterSet, ParameterTableAndLineParameters)
 {
-    std::vector<ParameterRow> rows;
-    // Kinds: 'C' a plain clip-level value, 'L' a keyframed lens value, 'T' a keyframed scene transform.
-    auto const row = [&rows](char kind, QString const& name, char const* value, double dMin = dNoLimit,
-                             double dMax = dNoLimit) {
-        bool const bLens = kind == 'L';
-        rows.push_back({name, kind != 'C', value, dMin, dMax, bLens ? Prm::InterpolationLinear : Prm::InterpolationStep,
-                        bLens ? Prm::ExtrapolationLinear : Prm::ExtrapolationHold});
-    };
-    for (auto [name, value] : {std::pair{"InputClipID", "1"}, {"CalibrationClipID", "1"}, {"UndistortedClipID", "0"},
-                               {"DistortedClipID", "0"}, {"directSTMapClipID", "0"}, {"inverseSTMapClipID", "0"},
-                               {"Type", "0"}})
-        row('C', name, value);
-    row('L', "FocalDistance", "25", double(0.001f), 10000000.0);
-    row('L', "ImageCentreX", "0.5", -10.0, 10.0);
-    row('L', "ImageCentreY", "0.5", -10.0, 10.0);
-    row('C', "ApplyDistortion", "0");
-    row('C', "DistortionActive", "1");
-    for (char const* name : {"RadialK1", "RadialK2", "CXX", "CXY", "CYX", "CYY"})
-        row('L', name, "0", -100.0, 100.0);
-    for (auto [name, value] : {std::pair{"Translation X", "0"}, {"Translation Y", "0"}, {"Rotation", "0"},
-                               {"Scale", "1"}, {"Shear X", "0"}, {"Shear Y", "1"}, {"Perspective X", "0"},
-                               {"Perspective Y", "0"}})
-        row('T', "SceneToCamera " + QString(name), value);
-    for (auto [name, value] : {std::pair{"Algorithm", "0"}, {"VariableImageCentre", "0"}, {"EquidistantLines", "0"},
-                               {"LineLengthThreshold", "20"}})
-        row('C', name, value);
-    TQ_CameraParameterSet const set;
+    TQ_CameraParameterSet set;
     EXPECT_EQ("Camera", set.qstrScriptName());
-    expectParameterTable(set, rows);
-    EXPECT_EQ(0.001f, set.FocalDistance.minimum()); // the float 0x3A83126F
-    for (Prm::ParameterWithoutType const* parameter : set.parameterList())
-        EXPECT_EQ(parameter == &set.FocalDistance, parameter->isHidden()) << parameter->qstrScriptName().toStdString();
+    TQTest::expectParameterTable(set,
+#include "data/CameraParameterSet.table"
+    );
     EXPECT_TRUE(set.imageProvider.empty() && set.lineParameters.isEmpty() && set.cameras.isEmpty());
 
     // Line parameters are found, or created on request.
-    TQ_CameraParameterSet lines;
-    EXPECT_EQ(nullptr, lines.getLineParameters(5, false));
-    TQ_LineParameters* created = lines.getLineParameters(5, true);
+    EXPECT_EQ(nullptr, set.getLineParameters(5, false));
+    TQ_LineParameters* created = set.getLineParameters(5, true);
     ASSERT_NE(nullptr, created);
     EXPECT_TRUE(created->lineFeatureMap == nullptr && created->reference == -1);
-    EXPECT_TRUE(created == lines.getLineParameters(5, false) && created == lines.getLineParameters(5, true));
-    EXPECT_EQ(1, lines.lineParameters.size());
+    EXPECT_TRUE(created == set.getLineParameters(5, false) && created == set.getLineParameters(5, true));
+    EXPECT_EQ(1, set.lineParameters.size());
 }
 
 TEST(CameraParameterSet, CacheHoldsOneCameraPerClipFieldOrAnimatedFrame)
 {
-    // A static lens: one entry, or one per field parity for field clips; the folded frame keeps the parity.
-    struct {
-        _TQ_INTERLACE_MODE mode;
-        Frames expected;
-        double dOddShift, dEvenShift;
-    } const rows[] = {{TQ_INTERLACE_NONE, {0}, 0.0, 0.0},
-                      {TQ_INTERLACE_FIELDS_1, {0, 1}, 0.5, 0.0},
-                      {TQ_INTERLACE_FIELDS_2, {0, 1}, 0.0, 0.5},
-                      {TQ_INTERLACE_PULLDOWN_FIRST, {0}, 0.0, 0.0}};
-    for (auto const& row : rows) {
+    // A static lens: one entry, or one per field parity for field clips; the folded frame keeps the parity. Per
+    // mode: the entries, and the shift of an odd and of an even frame.
+    for (auto [mode, expected, dOddShift, dEvenShift] :
+         {std::tuple{TQ_INTERLACE_NONE, Frames{0}, 0.0, 0.0}, {TQ_INTERLACE_FIELDS_1, Frames{0, 1}, 0.5, 0.0},
+          {TQ_INTERLACE_FIELDS_2, Frames{0, 1}, 0.0, 0.5}, {TQ_INTERLACE_PULLDOWN_FIRST, Frames{0}, 0.0, 0.0}}) {
         TQ_CameraParameterSet set;
         set.FocalDistance.vSetValue(50.0f, 3.0f); // one key does not animate
-        TQ_BaseClipInfo const info = clip(row.mode);
+        TQ_BaseClipInfo const info = clipOf(mode);
         for (unsigned int frame = 0; frame < 100; ++frame)
             set.getCamera(frame, &info);
-        EXPECT_EQ(row.expected, set.cameras.keys()) << "mode " << row.mode;
-        EXPECT_EQ(576.0 + row.dOddShift, set.getCamera(21, &info).y0) << "mode " << row.mode;
-        EXPECT_EQ(576.0 + row.dEvenShift, set.getCamera(20, &info).y0) << "mode " << row.mode;
+        EXPECT_EQ(expected, set.cameras.keys()) << "mode " << mode;
+        EXPECT_EQ(576.0 + dOddShift, set.getCamera(21, &info).y0) << "mode " << mode;
+        EXPECT_EQ(576.0 + dEvenShift, set.getCamera(20, &info).y0) << "mode " << mode;
         EXPECT_EQ(50.0 * 2048 / 24.0, set.getCamera(99, &info).fx);
     }
 
@@ -130,7 +90,7 @@ TEST(CameraParameterSet, CacheHoldsOneCameraPerClipFieldOrAnimatedFrame)
     set.Type.vSetValue(GAN_RADIAL_DISTORTION_1, 0.0f);
     set.RadialK1.vSetValue(0.1f, 0.0f);
     set.RadialK1.vSetValue(0.3f, 40.0f);
-    TQ_BaseClipInfo info = clip();
+    TQ_BaseClipInfo info = clipOf();
     EXPECT_FLOAT_EQ(0.15f, float(set.getCamera(10, &info).d[0]));
     EXPECT_FLOAT_EQ(0.2f, float(set.getCamera(20, &info).d[0]));
     for (int pass = 0; pass < 2; ++pass)
@@ -154,7 +114,8 @@ TEST(CameraParameterSet, HashFeedsTheLensAndClipValuesInOrderAsTheirBytes)
     for (auto [type, bProvider, bAddresses] : {std::tuple{GAN_RADIAL_DISTORTION_2, true, false},
                                                {GAN_DISTORTION_MAP, false, false}, {GAN_DISTORTION_MAP, true, true}}) {
         TQ_CameraParameterSet set;
-        vMapLens(set);
+        Provider provider;
+        provider.vInstall(set, bProvider);
         set.Type.vSetValue(type, 0.0f);
         set.FocalDistance.vSetValue(35.0f, 0.0f);
         set.FocalDistance.vSetValue(45.0f, 10.0f); // animated: frame 5 stays frame 5
@@ -163,10 +124,7 @@ TEST(CameraParameterSet, HashFeedsTheLensAndClipValuesInOrderAsTheirBytes)
         set.RadialK2.vSetMaximum(20.0f); // hashed as read, within the limits
         set.CYY.vSetValue(-3.0f, 0.0f);
         set.DistortionActive.vSetValue(false, 0.0f);
-        Provider provider;
-        if (bProvider)
-            provider.vInstall(set);
-        TQ_BaseClipInfo const info = clipOf(2048, 1152, TQ_INTERLACE_FIELDS_2, 24.0, 1.5);
+        TQ_BaseClipInfo const info = clipOf(TQ_INTERLACE_FIELDS_2, 1.5);
         set.getCamera(5, &info);
 
         Bsc::Hash expected;
@@ -186,10 +144,9 @@ TEST(CameraParameterSet, HashFeedsTheLensAndClipValuesInOrderAsTheirBytes)
 TEST(CameraParameterSet, ImageProviderIsAskedForTheHashAndForEachRebuild)
 {
     TQ_CameraParameterSet set;
-    vMapLens(set);
     Provider provider;
     provider.vInstall(set);
-    TQ_BaseClipInfo info = clip(TQ_INTERLACE_FIELDS_1);
+    TQ_BaseClipInfo info = clipOf(TQ_INTERLACE_FIELDS_1);
     Gan_Camera const first = set.getCamera(13, &info);
     using Call = Provider::Call;
     // Hash, then the rebuild: direct then inverse, at the folded frame, a zero and proxy scale 3.
@@ -204,8 +161,6 @@ TEST(CameraParameterSet, ImageProviderIsAskedForTheHashAndForEachRebuild)
     } const steps[] = {
         {"cached", [] {}, 2},
         {"ApplyDistortion is not hashed", [&] { set.ApplyDistortion.vSetValue(true, 0.0f); }, 2},
-        {"a scene transform is not hashed", [&] { set.SceneToCameraScale.vSetValue(3.0, 1.0f); }, 2},
-        {"film back height is hashed", [&] { info.filmType.filmBackHeight = 20.0; }, 4},
         {"aspect ratio is hashed", [&] { info.AspectRatio = 1.5; }, 4},
         {"a new image is hashed", [&] { provider.direct = boost::make_shared<Gan_Image>(); }, 4},
         {"cached again", [] {}, 2},
@@ -232,12 +187,11 @@ TEST(CameraParameterSet, ImageProviderIsAskedForTheHashAndForEachRebuild)
 TEST(CameraParameterSet, CopyHasNoProviderNorCacheAndAssignmentKeepsThem)
 {
     TQ_CameraParameterSet source;
-    vMapLens(source);
     source.FocalDistance.vSetMaximum(80.0f);
     source.FocalDistance.vSetValue(35.0f, 2.0f);
     Provider provider;
     provider.vInstall(source);
-    TQ_BaseClipInfo const info = clip();
+    TQ_BaseClipInfo const info = clipOf();
     source.getCamera(0, &info);
     Gan_LineFeatureMap* map = gan_line_feature_map_alloc(10, 20);
     gan_line_feature_map_add_line(map, {1, 2}, {3, 4}, 0.5, 1);
@@ -270,32 +224,24 @@ TEST(CameraParameterSet, CopyHasNoProviderNorCacheAndAssignmentKeepsThem)
 
 TEST(CameraParameterSet, RemoveReferencesResetsMatchingClipsAndAnnouncesRealChanges)
 {
-    // Stored: Input 7, Calibration 1, Undistorted 7, Distorted 0, direct 3, inverse 7. Then: the clip removed,
-    // the six references after it, and which of them announced a change.
-    struct {
-        unsigned int uiRemoved;
-        std::vector<unsigned int> expected;
-        std::vector<bool> announced;
-    } const rows[] = {
-        {7, {1, 1, 0, 0, 3, 0}, {true, false, true, false, false, true}},
-        {3, {7, 1, 7, 0, 0, 7}, {false, false, false, false, true, false}},
-        {1, {7, 1, 7, 0, 3, 7}, {false, false, false, false, false, false}},
-        {0, {1, 1, 0, 0, 0, 0}, {true, false, true, false, true, true}},
-    };
-    for (auto const& row : rows) {
+    // Stored: Input 7, Calibration 1, Undistorted 7, Distorted 0, direct 3, inverse 7; a reference announces
+    // a change only when its value moved. Then: the clip removed, and the six references after it.
+    std::vector<unsigned int> const before{7, 1, 7, 0, 3, 7};
+    for (auto const& [uiRemoved, after] : {std::pair{7u, std::vector<unsigned int>{1, 1, 0, 0, 3, 0}},
+                                           {3u, {7, 1, 7, 0, 0, 7}}, {1u, before}, {0u, {1, 1, 0, 0, 0, 0}}}) {
         TQ_CameraParameterSet set;
         Prm::Parameter<unsigned int>* const references[] = {&set.InputClipID, &set.CalibrationClipID,
                                                             &set.UndistortedClipID, &set.DistortedClipID,
                                                             &set.directSTMapClipID, &set.inverseSTMapClipID};
         std::vector<std::unique_ptr<ChangeRecorder>> recorders;
         for (int i = 0; i < 6; ++i) {
-            references[i]->vSetValue(std::vector<unsigned int>{7, 1, 7, 0, 3, 7}[i], 0.0f);
+            references[i]->vSetValue(before[i], 0.0f);
             recorders.push_back(std::make_unique<ChangeRecorder>(*references[i]));
         }
-        set.removeReferencesToClip(row.uiRemoved);
+        set.removeReferencesToClip(uiRemoved);
         for (int i = 0; i < 6; ++i) {
-            EXPECT_EQ(row.expected[i], references[i]->staticValue()) << "removing " << row.uiRemoved << " ref " << i;
-            EXPECT_EQ(row.announced[i], !recorders[i]->events.empty()) << "removing " << row.uiRemoved << " ref " << i;
+            EXPECT_EQ(after[i], references[i]->staticValue()) << "removing " << uiRemoved << " ref " << i;
+            EXPECT_EQ(after[i] != before[i], !recorders[i]->events.empty()) << "removing " << uiRemoved << " ref " << i;
         }
     }
 }

@@ -1,5 +1,5 @@
 #include "camera/Camera.h"
-#include "camera/Clips.h"
+#include "camera/Fixtures.h"
 
 #include <gtest/gtest.h>
 
@@ -10,57 +10,40 @@
 
 namespace {
 
-/// A lens whose coefficients differ from each other and from 0: 0.125, -0.25, then 0.5, -0.75, 1.5, -2.
+/// A lens whose coefficients differ from each other and from 0.
 TQ::Camera lens(Gan_CameraType type, bool bActive)
 {
-    TQ::Camera camera;
-    camera.type = type;
-    camera.focalDistance = 35.0f;
-    camera.imageCentreX = 0.45f;
-    camera.imageCentreY = 0.55f;
-    camera.distortionActive = bActive;
-    camera.radialK1 = 0.125f;
-    camera.radialK2 = -0.25f;
-    camera.cxx = 0.5f;
-    camera.cxy = -0.75f;
-    camera.cyx = 1.5f;
-    camera.cyy = -2.0f;
-    return camera;
+    return {type, 35.0f, 0.45f, 0.55f, bActive, 0.125f, -0.25f, 0.5f, -0.75f, 1.5f, -2.0f, {}, {}};
 }
 
 } // namespace
 
 TEST(Camera, ToGanCameraFillsTheModelsSlotsAndUpdateTakesThemBack)
 {
-    // Per model: the Gandalf type and slots written, and what update takes back beyond the centre and focal
+    // Per model: the slots written, and what update takes back beyond the centre and focal
     // length (radialK1, radialK2, cxx, cxy, cyx, cyy): the coefficients of its own model only.
-    struct {
-        Gan_CameraType type;
-        bool bActive;
-        Gan_CameraType ganType;
-        std::array<double, 4> d;
-        std::array<float, 6> back;
-    } const rows[] = {
-        {GAN_LINEAR_CAMERA, true, GAN_LINEAR_CAMERA, {0, 0, 0, 0}, {0, 0, 0, 0, 0, 0}},
-        {GAN_RADIAL_DISTORTION_1, true, GAN_RADIAL_DISTORTION_1, {0.125, 0, 0, 0}, {0.125f, 0, 0, 0, 0, 0}},
-        {GAN_RADIAL_DISTORTION_1_INV, true, GAN_RADIAL_DISTORTION_1_INV, {0.125, 0, 0, 0}, {0.125f, 0, 0, 0, 0, 0}},
-        {GAN_RADIAL_DISTORTION_2, true, GAN_RADIAL_DISTORTION_2, {0.125, -0.25, 0, 0}, {0.125f, -0.25f, 0, 0, 0, 0}},
-        {GAN_RADIAL_DISTORTION_3, true, GAN_RADIAL_DISTORTION_3, {0, 0, 0, 0}, {0, 0, 0, 0, 0, 0}},
-        {GAN_XY_DISTORTION_4, true, GAN_XY_DISTORTION_4, {0.5, -0.75, 1.5, -2.0}, {0, 0, 0.5f, -0.75f, 1.5f, -2.0f}},
-        {GAN_RADIAL_DISTORTION_2, false, GAN_LINEAR_CAMERA, {0, 0, 0, 0}, {0, 0, 0, 0, 0, 0}}, // no slot written
-        {GAN_DISTORTION_MAP, true, GAN_DISTORTION_MAP, {}, {0, 0, 0, 0, 0, 0}}, // slots hold the images
+    using Row = std::tuple<Gan_CameraType, bool, std::array<double, 4>, std::array<float, 6>>;
+    Row const rows[] = {
+        {GAN_LINEAR_CAMERA, true, {0, 0, 0, 0}, {0, 0, 0, 0, 0, 0}},
+        {GAN_RADIAL_DISTORTION_1, true, {0.125, 0, 0, 0}, {0.125f, 0, 0, 0, 0, 0}},
+        {GAN_RADIAL_DISTORTION_1_INV, true, {0.125, 0, 0, 0}, {0.125f, 0, 0, 0, 0, 0}},
+        {GAN_RADIAL_DISTORTION_2, true, {0.125, -0.25, 0, 0}, {0.125f, -0.25f, 0, 0, 0, 0}},
+        {GAN_RADIAL_DISTORTION_3, true, {0, 0, 0, 0}, {0, 0, 0, 0, 0, 0}},
+        {GAN_XY_DISTORTION_4, true, {0.5, -0.75, 1.5, -2.0}, {0, 0, 0.5f, -0.75f, 1.5f, -2.0f}},
+        {GAN_RADIAL_DISTORTION_2, false, {0, 0, 0, 0}, {0, 0, 0, 0, 0, 0}}, // no slot written
+        {GAN_DISTORTION_MAP, true, {}, {0, 0, 0, 0, 0, 0}}, // slots hold the images
     };
     auto const image = boost::make_shared<Gan_Image>();
-    for (auto const& row : rows) {
-        TQ::Camera source = lens(row.type, row.bActive);
+    for (auto const& [type, bActive, d, expectedBack] : rows) {
+        TQ::Camera source = lens(type, bActive);
         source.directMap = image;
         source.inverseMap = boost::make_shared<Gan_Image>();
         Gan_Camera const plain = source.toGanCamera(QSize(2000, 1000), 20.0, 2.0, false, false);
-        EXPECT_EQ(row.ganType, plain.type) << row.type;
-        if (row.type == GAN_DISTORTION_MAP)
+        EXPECT_EQ(bActive ? type : GAN_LINEAR_CAMERA, plain.type) << "an inactive lens is linear";
+        if (type == GAN_DISTORTION_MAP)
             EXPECT_TRUE(plain.map.direct == image.get() && plain.map.inverse == source.inverseMap.get());
         else
-            EXPECT_EQ(row.d, (std::array<double, 4>{plain.d[0], plain.d[1], plain.d[2], plain.d[3]})) << row.type;
+            EXPECT_EQ(d, (std::array<double, 4>{plain.d[0], plain.d[1], plain.d[2], plain.d[3]})) << type;
         EXPECT_DOUBLE_EQ(0.45f * 2000.0, plain.x0);
         EXPECT_DOUBLE_EQ(35.0 * 2000.0 / 20.0, plain.fx);
         EXPECT_DOUBLE_EQ(2.0 * plain.fx, plain.fy);
@@ -72,24 +55,23 @@ TEST(Camera, ToGanCameraFillsTheModelsSlotsAndUpdateTakesThemBack)
              {std::tuple{TQ_INTERLACE_NONE, 3u, false, 0.0}, {TQ_INTERLACE_FIELDS_1, 3u, true, 0.5},
               {TQ_INTERLACE_FIELDS_1, 4u, true, 0.0}, {TQ_INTERLACE_FIELDS_2, 3u, true, 0.0},
               {TQ_INTERLACE_FIELDS_2, 4u, true, 0.5}, {TQ_INTERLACE_PULLDOWN_FIRST, 3u, false, 0.0}}) {
-            SCOPED_TRACE(testing::Message() << row.type << " " << mode << " " << frame);
-            TQ_BaseClipInfo const info = clipOf(1920, 1080, mode, 24.0, 1.25);
-            Gan_Camera gan = lens(row.type, true).toGanCamera(frame, info); // slots filled for every row
-            double const fx = 35.0 * 1920.0 / 24.0;
+            TQ_BaseClipInfo const info = clipOf(mode, 1.25);
+            Gan_Camera gan = lens(type, true).toGanCamera(frame, info); // slots filled for every row
+            double const fx = 35.0 * 2048.0 / 24.0;
             EXPECT_DOUBLE_EQ(fx, gan.fx);
-            EXPECT_DOUBLE_EQ(fx * 1.25 * (bHalved ? 0.5 : 1.0), gan.fy);
-            EXPECT_DOUBLE_EQ(0.55f * 1080.0 + dShift, gan.y0);
+            EXPECT_DOUBLE_EQ(fx * 1.25 * (bHalved ? 0.5 : 1.0), gan.fy) << type << " " << mode << " " << frame;
+            EXPECT_DOUBLE_EQ(0.55f * 1152.0 + dShift, gan.y0) << type << " " << mode << " " << frame;
             TQ::Camera back;
-            back.type = row.type;
-            back.distortionActive = row.bActive;
+            back.type = type;
+            back.distortionActive = bActive;
             back.directMap = image;
             back.update(&gan, frame, &info);
             EXPECT_FLOAT_EQ(source.imageCentreX, back.imageCentreX);
             EXPECT_FLOAT_EQ(source.imageCentreY, back.imageCentreY);
             EXPECT_FLOAT_EQ(source.focalDistance, back.focalDistance);
-            EXPECT_EQ(row.back, (std::array<float, 6>{back.radialK1, back.radialK2, back.cxx, back.cxy, back.cyx,
+            EXPECT_EQ(expectedBack, (std::array<float, 6>{back.radialK1, back.radialK2, back.cxx, back.cxy, back.cyx,
                                                       back.cyy}));
-            EXPECT_TRUE(back.type == row.type && back.distortionActive == row.bActive && back.directMap == image);
+            EXPECT_TRUE(back.type == type && back.distortionActive == bActive && back.directMap == image);
             back.update(nullptr, frame, &info); // nothing to read: harmless
             back.update(&gan, frame, nullptr);
         }

@@ -1,14 +1,15 @@
 #include "camera/FrameWarp.h"
+#include "gandalf/Fixtures.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <climits>
 #include <cmath>
 #include <cstring>
 #include <limits>
 #include <memory>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -48,15 +49,6 @@ void expectPoint(Gan_Vector3 const& p, double x, double y, double z, char const*
     EXPECT_TRUE(p.x == x && p.y == y && p.z == z) << what << ": " << p.x << ", " << p.y << ", " << p.z;
 }
 
-Gan_CubicBSplineWeights* ptGrid(double dSeed)
-{
-    auto* grid = new Gan_CubicBSplineWeights();
-    for (int i = 0; i < GAN_CUBIC_BSPLINE_GRID_SIZE; ++i)
-        for (int j = 0; j < GAN_CUBIC_BSPLINE_GRID_SIZE; ++j)
-            grid->weight[i][j] = Gan_Vector2{dSeed * std::sin(i * 0.7), dSeed * std::cos(j * 0.4)};
-    return grid;
-}
-
 bool bSameGrid(Gan_CubicBSplineWeights const* a, Gan_CubicBSplineWeights const* b)
 {
     return std::equal(&a->weight[0][0].x, &a->weight[0][0].x + 578, &b->weight[0][0].x);
@@ -66,52 +58,25 @@ bool bSameGrid(Gan_CubicBSplineWeights const* a, Gan_CubicBSplineWeights const* 
 
 TEST(FrameWarp, WarpThenUnwarpReturnsPointsForEveryLensOnEitherSide)
 {
-    // Maps that move a pixel right by one and back, on a 640 x 480 frame.
-    Gan_CameraMaps const maps{gan_image_alloc(GAN_VECTOR_FIELD_2D, GAN_FLOAT, 480, 640),
-                              gan_image_alloc(GAN_VECTOR_FIELD_2D, GAN_FLOAT, 480, 640)};
-    for (auto [image, dShift] : {std::pair{maps.direct, 1.0}, {maps.inverse, -1.0}})
-        for (unsigned long row = 0; row < 480; ++row)
-            for (unsigned long col = 0; col < 640; ++col) {
-                auto* pixel = static_cast<float*>(gan_image_get_pixptr(image, row, col));
-                pixel[0] = float(col + 0.5 + dShift);
-                pixel[1] = float(row + 0.5);
-            }
-    std::unique_ptr<Gan_CubicBSplineWeights> const grid(ptGrid(0.5));
-    auto const lens = [&](Gan_CameraType type, std::array<double, 4> d) {
-        Gan_Camera c{type, {800}, {780}, {320}, {240}, {320}, {}, grid.get(), nullptr, nullptr, nullptr};
-        std::copy(d.begin(), d.end(), c.d);
-        if (type == GAN_DISTORTION_MAP)
-            c.map = maps;
-        EXPECT_TRUE(gan_camera_internalize(&c)) << type;
-        return c;
-    };
-    Gan_Camera const linear = lens(GAN_LINEAR_CAMERA, {});
-    std::vector<Gan_Camera> cameras;
-    for (auto const& [type, d] : std::initializer_list<std::pair<Gan_CameraType, std::array<double, 4>>>{
-             {GAN_LINEAR_CAMERA, {}}, {GAN_RADIAL_DISTORTION_1, {-0.05}}, {GAN_RADIAL_DISTORTION_2, {-0.05, 0.01}},
-             {GAN_RADIAL_DISTORTION_3, {-0.05, 0.01, 0.001}}, {GAN_RADIAL_DISTORTION_1_INV, {0.03}},
-             {GAN_RADIAL_DISTORTION_2_INV, {0.03, 0.002}}, {GAN_STEREOGRAPHIC_CAMERA, {}}, {GAN_EQUIDISTANT_CAMERA, {}},
-             {GAN_SINE_LAW_CAMERA, {}}, {GAN_EQUI_SOLID_ANGLE_CAMERA, {}},
-             {GAN_XY_DISTORTION_4, {0.01, 0.02, 0.015, 0.005}}, {GAN_CUBIC_BSPLINE_CAMERA, {}},
-             {GAN_CUBIC_BSPLINE_CAMERA_INV, {}}, {GAN_DISTORTION_MAP, {}}})
-        cameras.push_back(lens(type, d));
     Gan_Matrix33 const h{1.02, 0.01, 0.01, -0.01, 0.98, -0.005, 0.01, -0.02, 1};
-    for (Gan_Camera const& c : cameras)
-        for (auto const& side : {std::make_pair(c, linear), std::make_pair(linear, c), std::make_pair(c, c)}) {
+    for (TQTest::Lens const& lens : TQTest::lenses()) {
+        Gan_Camera c = TQTest::cameraOf(lens);
+        Gan_Camera linear = TQTest::cameraOf({"", GAN_LINEAR_CAMERA, lens.f, {}, {}, {}, {}, lens.width, lens.height});
+        ASSERT_TRUE(gan_camera_internalize(&c) && gan_camera_internalize(&linear)) << lens.name;
+        for (auto const& [back, projection] : {std::pair{c, linear}, {linear, c}, {c, c}}) {
             TQ::FrameWarp warp;
-            vSet(warp, side.first, h, side.second);
-            for (double x = 180; x <= 460; x += 70)
-                for (double y = 130; y <= 350; y += 55) {
-                    double wx = x, wy = y;
+            vSet(warp, back, h, projection);
+            for (double x = 0.35; x < 0.7; x += 0.1)
+                for (double y = 0.35; y < 0.7; y += 0.1) {
+                    double wx = x * lens.width, wy = y * lens.height;
                     warp.vWarpPoint(wx, wy);
-                    EXPECT_GT(std::hypot(wx - x, wy - y), 0.1) << c.type << " did not map " << x << ", " << y;
+                    EXPECT_GT(std::hypot(wx - x * lens.width, wy - y * lens.height), 0.1) << lens.name << " unmoved";
                     warp.vUnwarpPoint(wx, wy);
-                    EXPECT_NEAR(wx, x, 1e-6) << c.type << " at " << x << ", " << y;
-                    EXPECT_NEAR(wy, y, 1e-6) << c.type << " at " << x << ", " << y;
+                    EXPECT_NEAR(wx, x * lens.width, 1e-6) << lens.name << " at " << x << ", " << y;
+                    EXPECT_NEAR(wy, y * lens.height, 1e-6) << lens.name << " at " << x << ", " << y;
                 }
         }
-    gan_image_free(maps.direct);
-    gan_image_free(maps.inverse);
+    }
 }
 
 TEST(FrameWarp, SetAttributesForcesFlagsOnAndFallsBackToIdentity)
@@ -144,9 +109,9 @@ TEST(FrameWarp, SetAttributesForcesFlagsOnAndFallsBackToIdentity)
     }
 }
 
-TEST(FrameWarp, WeightGridBuffersAreOwnedCopiedAndNeverCopiedOntoThemselves)
+TEST(FrameWarp, WeightGridBuffersAreOwnedCopiedDeeplyAndNeverCopiedOntoThemselves)
 {
-    std::unique_ptr<Gan_CubicBSplineWeights> const callerGrid(ptGrid(1.0));
+    std::unique_ptr<Gan_CubicBSplineWeights> const callerGrid = TQTest::gridWeights(1.0);
     Gan_Camera spline = stub(true, true, 1.0, GAN_CUBIC_BSPLINE_CAMERA);
     spline.weights = spline.weights_aux = callerGrid.get();
 
@@ -173,44 +138,57 @@ TEST(FrameWarp, WeightGridBuffersAreOwnedCopiedAndNeverCopiedOntoThemselves)
     // A camera whose grid is the argument itself is not copied; the warp owns and frees that memory.
     TQ::FrameWarp owner;
     Gan_Camera self = spline;
-    self.weights = ptGrid(5.0);
+    self.weights = TQTest::gridWeights(5.0).release();
     vSet(owner, self, translation, stub(true, true), self.weights, nullptr);
     EXPECT_TRUE(owner.ptBackprojectionWeights == self.weights && owner.tBackprojectionCamera.weights == self.weights);
 
     // A weights argument of a camera that does not use it passes to the warp all the same; one buffer given
     // for both sides is freed once.
     TQ::FrameWarp unused;
-    Gan_CubicBSplineWeights* const both = ptGrid(2.0);
-    vSet(unused, stub(true, true), translation, stub(true, true), both, both);
+    Gan_Camera outside = stub(true, true);
+    outside.weights = callerGrid.get();
+    Gan_CubicBSplineWeights* const both = TQTest::gridWeights(2.0).release();
+    vSet(unused, stub(true, true), translation, outside, both, both);
     EXPECT_TRUE(unused.tBackprojectionCamera.weights == nullptr && unused.ptProjectionWeights == both);
+
+    // Copies are deep: each buffer is copied and a camera follows its own copy; memory outside the warp stays
+    // shared, and one buffer behind both sides stays one buffer.
+    TQ::FrameWarp assigned;
+    assigned = warp;
+    assigned = static_cast<TQ::FrameWarp const&>(assigned);
+    TQ::FrameWarp const constructed(warp), twin(unused);
+    for (TQ::FrameWarp const* copy : {static_cast<TQ::FrameWarp const*>(&assigned), &constructed}) {
+        EXPECT_TRUE(copy->ptBackprojectionWeights != held && copy->ptProjectionWeights != warp.ptProjectionWeights);
+        EXPECT_TRUE(copy->tBackprojectionCamera.weights == copy->ptBackprojectionWeights
+                    && copy->tProjectionCamera.weights == copy->ptProjectionWeights);
+        EXPECT_TRUE(bSameGrid(copy->ptBackprojectionWeights, held) && bSameGrid(copy->ptProjectionWeights, held));
+        EXPECT_EQ(copy->tInverseHomography.xz, -5.0);
+    }
+    EXPECT_TRUE(twin.ptBackprojectionWeights == twin.ptProjectionWeights && twin.ptProjectionWeights != both);
+    EXPECT_EQ(twin.tProjectionCamera.weights, callerGrid.get());
 }
 
 TEST(FrameWarp, FailedCameraCallsRestoreOrLeaveThePoint)
 {
-    // Which call fails, and the results of warping and unwarping (1, 2, 1) through a translation by 5.
-    struct {
-        bool bBackBackprojects, bBackProjects, bProjectionBackprojects, bProjectionProjects;
-        double dWarpedX, dUnwarpedX;
-        char const* what;
-    } const rows[] = {
-        {true, true, true, true, 6, -4, "all succeed"},
-        {false, true, true, true, 42, -4, "back-projection fails in the warp: left as the camera left it"},
-        {true, true, true, false, 1, -4, "projection fails in the warp: restored"},
-        {true, true, false, true, 6, 1, "first step of the unwarp fails: restored"},
-        {true, false, true, true, 6, 1, "last step of the unwarp fails: restored"},
-    };
-    for (auto const& row : rows) {
+    // Whether the back camera back-projects and projects, whether the projection camera does, the results of
+    // warping and unwarping (1, 2, 1) through a translation by 5, and why.
+    using Row = std::tuple<bool, bool, bool, bool, double, double, char const*>;
+    for (auto [bBackBack, bBackProjects, bProjectionBack, bProjectionProjects, dWarpedX, dUnwarpedX, what] :
+         {Row{true, true, true, true, 6, -4, "all succeed"},
+          Row{false, true, true, true, 42, -4, "back-projection fails in the warp: left as the camera left it"},
+          Row{true, true, true, false, 1, -4, "projection fails in the warp: restored"},
+          Row{true, true, false, true, 6, 1, "first step of the unwarp fails: restored"},
+          Row{true, false, true, true, 6, 1, "last step of the unwarp fails: restored"}}) {
         TQ::FrameWarp warp;
-        vSet(warp, stub(row.bBackProjects, row.bBackBackprojects), translation,
-             stub(row.bProjectionProjects, row.bProjectionBackprojects));
+        vSet(warp, stub(bBackProjects, bBackBack), translation, stub(bProjectionProjects, bProjectionBack));
         Gan_Vector3 p{1, 2, 1}, q{1, 2, 1};
         warp.vWarpPoint(p);
-        expectPoint(p, row.dWarpedX, 2, 1, row.what);
+        expectPoint(p, dWarpedX, 2, 1, what);
         warp.vUnwarpPoint(q);
-        expectPoint(q, row.dUnwarpedX, 2, 1, row.what);
+        expectPoint(q, dUnwarpedX, 2, 1, what);
         float x = 0.1f, y = -7.3f;
         warp.vWarpPoint(x, y);
-        EXPECT_TRUE(row.dWarpedX != 1 || (x == 0.1f && y == -7.3f)) << "float form: " << row.what;
+        EXPECT_TRUE(dWarpedX != 1 || (x == 0.1f && y == -7.3f)) << "float form: " << what;
     }
 }
 
@@ -241,11 +219,9 @@ TEST(FrameWarp, WithoutCamerasTheImagePlaneScalesAndOverloadsBringTheirSidesZ)
         EXPECT_EQ(d, 6.0);
 
     // The result is taken at float precision and truncated toward zero.
-    struct {
-        QPointF in, out;
-    } const rows[] = {{{5.45, -1.95}, {10, -3}}, {{dNaN, 3e10}, {INT_MIN, INT_MIN}}};
-    for (auto const& row : rows)
-        EXPECT_EQ(warp.getPointWarped(row.in), row.out) << row.in.x();
+    for (auto [in, out] :
+         {std::pair{QPointF(5.45, -1.95), QPointF(10, -3)}, {QPointF(dNaN, 3e10), QPointF(INT_MIN, INT_MIN)}})
+        EXPECT_EQ(warp.getPointWarped(in), out) << in.x();
 
     // A zero z after the product restores the point; a NaN z is not zero and goes on.
     warp.tHomography = warp.tInverseHomography = Gan_Matrix33{1, 0, 0, 0, 1, 0, 0, 0, 0};
@@ -257,33 +233,4 @@ TEST(FrameWarp, WithoutCamerasTheImagePlaneScalesAndOverloadsBringTheirSidesZ)
     Gan_Vector3 n{5, 6, dNaN};
     warp.vWarpPoint(n);
     EXPECT_TRUE(std::isnan(n.x) && std::isnan(n.y) && n.z == 4.0);
-}
-
-TEST(FrameWarp, CopiesAreDeep)
-{
-    std::unique_ptr<Gan_CubicBSplineWeights> const callerGrid(ptGrid(3.0));
-    Gan_Camera spline = stub(true, true, 1.0, GAN_CUBIC_BSPLINE_CAMERA), outside = stub(true, true);
-    spline.weights = outside.weights = callerGrid.get();
-    TQ::FrameWarp source, assigned;
-    vSet(source, spline, translation, outside, nullptr, ptGrid(4.0));
-    vSet(assigned, spline, gan_mat33_ident_s(), spline);
-    assigned = source;
-    assigned = static_cast<TQ::FrameWarp const&>(assigned);
-    TQ::FrameWarp const constructed(source);
-    for (TQ::FrameWarp const* copy : {static_cast<TQ::FrameWarp const*>(&assigned), &constructed}) {
-        EXPECT_TRUE(copy->ptBackprojectionWeights != source.ptBackprojectionWeights
-                    && copy->ptProjectionWeights != source.ptProjectionWeights);
-        EXPECT_EQ(copy->tBackprojectionCamera.weights, copy->ptBackprojectionWeights) << "follows its own buffer";
-        EXPECT_EQ(copy->tProjectionCamera.weights, callerGrid.get()) << "memory outside the warp stays shared";
-        EXPECT_TRUE(bSameGrid(copy->ptBackprojectionWeights, callerGrid.get())
-                    && bSameGrid(copy->ptProjectionWeights, source.ptProjectionWeights));
-        EXPECT_EQ(copy->tInverseHomography.xz, -5.0);
-    }
-    // One buffer behind both sides stays one buffer in the copy.
-    TQ::FrameWarp twin;
-    Gan_CubicBSplineWeights* const both = ptGrid(1.0);
-    vSet(twin, spline, translation, spline, both, both);
-    TQ::FrameWarp const twinCopy(twin);
-    EXPECT_TRUE(twinCopy.ptBackprojectionWeights == twinCopy.ptProjectionWeights
-                && twinCopy.tProjectionCamera.weights == twinCopy.ptProjectionWeights);
 }
