@@ -12,8 +12,10 @@
 #include <gtest/gtest.h>
 
 #include <QMap>
+#include <QRegExp>
 #include <QStringList>
 #include <QVector>
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <ostream>
@@ -29,20 +31,11 @@ struct TableRow {
     QString name, kind, keyed, initial, minimum, maximum, interpolation, extrapolation, displayName, hidden;
 };
 
-/// A set's data file: rows plus the set's name, moved parameters, forgotten clips and rescaled parameters
-/// (children's included, in order), what its assignment keeps (parameters, "clipContainer", child sets; a
-/// trailing * matches any ending), its child sets, and the parameters whose hidden flag `init()` sets
-/// ("*": all). Rows whose name holds %1 and %2 stand for the 17 x 17 weight grid, cell by cell.
-struct SetTable {
-    QString name;
-    QStringList moved, forgets, rescales, kept, children, flagsByInit;
-    QVector<TableRow> rows;
-
-    explicit SetTable(QString const& setName)
-    {
-        static char const* const allTables =
+/// The module sets' data files, one after another.
+inline char const* const moduleSetTables =
 #include "tables/Basic.table"
 #include "tables/Blur.table"
+#include "tables/Camera3D.table"
 #include "tables/Colour.table"
 #include "tables/ColourBand.table"
 #include "tables/ColourFilter.table"
@@ -57,12 +50,26 @@ struct SetTable {
 #include "tables/Stabilize.table"
 #include "tables/Track.table"
 #include "tables/Warper.table"
-            ;
+    ;
+
+/// One set of a data file ("set <name>" up to the next "set"): rows plus the set's name, moved parameters,
+/// forgotten clips and rescaled parameters (children's included, in order), what its assignment keeps
+/// (parameters, "clipContainer", child sets; * matches any ending), its child sets, and the parameters whose
+/// hidden flag `init()` sets ("*": all). Rows whose name holds %1 and %2 stand for the 17 x 17 weight grid,
+/// cell by cell. `text` may be another folder's tables, in the same form.
+struct SetTable {
+    QString name;
+    QStringList moved, forgets, rescales, kept, children, flagsByInit;
+    QVector<TableRow> rows;
+
+    explicit SetTable(QString const& setName, char const* text = moduleSetTables)
+    {
         QVector<TableRow> grid;
-        QStringList* const lists[] = {&moved, &forgets, &rescales, &kept, &children, &flagsByInit};
-        QStringList const words = {"moved", "forgets", "rescales", "kept", "children", "flags-by-init"};
+        QMap<QString, QStringList*> const lists{{"moved", &moved},     {"forgets", &forgets},
+                                                 {"rescales", &rescales}, {"kept", &kept},
+                                                 {"children", &children}, {"flags-by-init", &flagsByInit}};
         QString current;
-        for (QString const& line : QString::fromUtf8(allTables).split('\n', Qt::SkipEmptyParts)) {
+        for (QString const& line : QString::fromUtf8(text).split('\n', Qt::SkipEmptyParts)) {
             QString const word = line.section(' ', 0, 0);
             if (word == "set")
                 current = line.section(' ', 1);
@@ -70,9 +77,9 @@ struct SetTable {
                 continue;
             if (word == "set")
                 name = current;
-            else if (words.contains(word))
+            else if (lists.contains(word))
                 for (QString const& item : line.section(' ', 1).split(',', Qt::SkipEmptyParts))
-                    *lists[words.indexOf(word)] << item.trimmed();
+                    *lists[word] << item.trimmed();
             else {
                 QStringList cells = line.split('|');
                 for (QString& cell : cells)
@@ -93,10 +100,9 @@ struct SetTable {
     /// Whether assignment leaves `member` as it was.
     bool bKept(QString const& member) const
     {
-        for (QString const& entry : kept)
-            if (entry == member || (entry.endsWith('*') && member.startsWith(entry.chopped(1))))
-                return true;
-        return false;
+        return std::any_of(kept.begin(), kept.end(), [&member](QString const& entry) {
+            return QRegExp(entry, Qt::CaseSensitive, QRegExp::Wildcard).exactMatch(member);
+        });
     }
 };
 
@@ -222,6 +228,26 @@ inline QStringList expectedFacts(Prm::ParameterWithoutType& parameter, TableRow 
             facts << qstrOf(tFromCell<T>(row.minimum)) << qstrOf(tFromCell<T>(row.maximum));
     });
     return facts << (row.displayName.isEmpty() ? row.name : row.displayName) << row.hidden;
+}
+
+/// Expects `set` to follow `table`: display name, moved parameters, child sets, then row by row.
+inline void vExpectTable(Prm::ParameterSet const& set, SetTable const& table)
+{
+    EXPECT_EQ(set.qstrDisplayName(), table.name);
+    QStringList moved, children;
+    for (Prm::BasicParameter const* basic : set.basicParameterList())
+        moved << basic->scriptName();
+    for (Prm::ParameterSet const* child : set.childSetList())
+        children << child->qstrScriptName();
+    EXPECT_EQ(moved, table.moved);
+    EXPECT_EQ(children, table.children) << "child sets in the order of the text";
+    QVector<Prm::ParameterWithoutType*> const parameters = set.parameterList();
+    ASSERT_EQ(parameters.size(), table.rows.size()) << table.name.toStdString();
+    for (int i = 0; i < parameters.size(); ++i) {
+        EXPECT_EQ(parameters[i]->qstrScriptName(), table.rows[i].name) << "row " << i;
+        EXPECT_EQ(factsOf(*parameters[i]) + looksOf(*parameters[i]), expectedFacts(*parameters[i], table.rows[i]))
+            << table.rows[i].name.toStdString();
+    }
 }
 
 /// A value different from the default for `step` 1 (and mostly for 2), inside the limits.

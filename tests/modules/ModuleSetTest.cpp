@@ -72,22 +72,7 @@ TYPED_TEST_SUITE(ModuleSet, Sets);
 
 TYPED_TEST(ModuleSet, FollowsItsTableRowByRow)
 {
-    std::unique_ptr<TypeParam> set = newSet<TypeParam>(&this->clips);
-    EXPECT_EQ(set->qstrDisplayName(), this->table.name);
-    QStringList moved, children;
-    for (Prm::BasicParameter const* basic : set->basicParameterList())
-        moved << basic->scriptName();
-    for (Prm::ParameterSet const* child : set->childSetList())
-        children << child->qstrScriptName();
-    EXPECT_EQ(moved, this->table.moved);
-    EXPECT_EQ(children, this->table.children) << "child sets in the order of the text";
-    QVector<Prm::ParameterWithoutType*> const parameters = set->parameterList();
-    ASSERT_EQ(parameters.size(), this->table.rows.size());
-    for (int i = 0; i < parameters.size(); ++i) {
-        EXPECT_EQ(parameters[i]->qstrScriptName(), this->table.rows[i].name) << "row " << i;
-        EXPECT_EQ(factsOf(*parameters[i]) + looksOf(*parameters[i]), expectedFacts(*parameters[i], this->table.rows[i]))
-            << this->table.rows[i].name.toStdString();
-    }
+    vExpectTable(*newSet<TypeParam>(&this->clips), this->table);
 }
 
 TYPED_TEST(ModuleSet, CopyTakesEverythingAndAssignmentAllButWhatTheTableKeeps)
