@@ -5,7 +5,7 @@
 
 TEST(InsertROIParameterSet, ShowsFractionsInPixelsOfTheClipTheInsertSetNames)
 {
-    Clips clips;
+    TQTest::Clips clips;
     TQ_InsertParameterSet insert(&clips);
     TQ_InsertROIParameterSet& roi = insert.ROI;
     struct Row {
