@@ -119,23 +119,20 @@ TEST(Enumerations, MetatypesRegisterOnFirstUseUnderTheirNames)
 TEST(Strings, ExportedTablesAndModuleNames)
 {
     using namespace TQ::Strings;
-    auto const list = [](auto const& table) { return QStringList(std::begin(table), std::end(table)); };
-    EXPECT_EQ(list(_TQ_CLIP_MODE_NAME), QStringList({"Don't repeat", "Repeat", "Loop", "Ping-pong"}));
-    EXPECT_EQ(list(_TQ_PRIMATTE_SAMPLEOP_NAME),
-              QStringList({"Select Background", "Clean Background", "Clean Foreground", "Fine Tuning",
-                           "Matte Sponge", "Spill Sponge", "Make FG Transparent", "Restore Detail", "Spill +",
-                           "Spill -", "Matte +", "Matte -", "Detail +", "Detail -"}));
-    EXPECT_EQ(list(_TQ_KOLBEDATA_FORMAT_NAME), QStringList({"Result clips", "Shake script using pre-rendered clips",
-                                                             "Shake script using lufex plugins"}));
-    EXPECT_EQ(list(_TQ_KOLBEDATA_FORMAT_EXTENSION), QStringList({".txt", ".shk", ".shk"}));
-    EXPECT_EQ(list(_TQ_TIMECODEFORMAT_NAME),
-              QStringList({"30 fps non-drop", "30 fps drop-frame", "25 fps", "24 fps"}));
-    char const* const others[] = {_TQ_LayerDataFormatName, _TQ_LayerDataFormatExtension, MODULESTRING_CLIP,
-                                  MODULESTRING_CAMERA, MODULESTRING_LENS, MODULESTRING_TRACK2D,
-                                  MODULESTRING_ADJUSTTRACK, MODULESTRING_REMOVE, MODULESTRING_STABILIZE,
-                                  MODULESTRING_INSERT, MODULESTRING_WARPER, MODULESTRING_CAMERASOLVE};
-    EXPECT_EQ(list(others), QStringList({"Vantrel Layer Script (*.layer)", ".layer", "Clip", "Camera", "Lens",
-                                         "Track", "AdjustTrack", "Remove", "Stabilize", "Insert", "Warp",
-                                         "Camera Solve"}));
-    EXPECT_EQ(QString::fromLatin1(MATTE_CLIP_PREFIX_FORMAT).arg("Plate"), "Matte for Plate");
+#define TQ_TABLE(t) QString(#t ": ") + QStringList(std::begin(t), std::end(t)).join('|')
+#define TQ_TEXT(t) QString(#t ": ") + t
+    QStringList const actual = {TQ_TABLE(_TQ_CLIP_MODE_NAME), TQ_TABLE(_TQ_PRIMATTE_SAMPLEOP_NAME),
+        TQ_TABLE(_TQ_KOLBEDATA_FORMAT_NAME), TQ_TABLE(_TQ_KOLBEDATA_FORMAT_EXTENSION),
+        TQ_TABLE(_TQ_TIMECODEFORMAT_NAME), TQ_TEXT(_TQ_LayerDataFormatName), TQ_TEXT(_TQ_LayerDataFormatExtension),
+        TQ_TEXT(MODULESTRING_CLIP), TQ_TEXT(MODULESTRING_CAMERA), TQ_TEXT(MODULESTRING_LENS),
+        TQ_TEXT(MODULESTRING_TRACK2D), TQ_TEXT(MODULESTRING_ADJUSTTRACK), TQ_TEXT(MODULESTRING_REMOVE),
+        TQ_TEXT(MODULESTRING_STABILIZE), TQ_TEXT(MODULESTRING_INSERT), TQ_TEXT(MODULESTRING_WARPER),
+        TQ_TEXT(MODULESTRING_CAMERASOLVE), TQ_TEXT(MATTE_CLIP_PREFIX_FORMAT)};
+#undef TQ_TABLE
+#undef TQ_TEXT
+    QStringList expected = QString(
+#include "data/Strings.txt"
+        ).split('\n', Qt::SkipEmptyParts);
+    expected.removeFirst(); // the heading
+    EXPECT_EQ(actual, expected);
 }
