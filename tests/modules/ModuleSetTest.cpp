@@ -1,14 +1,6 @@
 #include "ModuleSetTable.h"
-#include "modules/ColourParameterSet.h"
-#include "modules/InsertParameterSet.h"
-#include "modules/LayerParameterSet.h"
-#include "modules/MatteParameterSet.h"
-#include "modules/RemoveParameterSet.h"
-#include "modules/StabilizeParameterSet.h"
-#include "modules/TrackingParameterSet.h"
-#include "modules/WarperParameterSet.h"
 #include "prm/Fixtures.h"
-#include "prm/text/ParameterTextDocument.h"
+#include "tq.h"
 
 #include <memory>
 

@@ -24,16 +24,7 @@ void* pField(TQ_CallbackStruct const& callbacks, int n)
 template <class F>
 void* pAddress(F function)
 {
-    void* pointer = nullptr;
-    std::memcpy(&pointer, &function, sizeof pointer);
-    return pointer;
-}
-
-int iCallInt(void* field)
-{
-    int (*function)() = nullptr;
-    std::memcpy(&function, &field, sizeof function);
-    return function();
+    return reinterpret_cast<void*>(function);
 }
 
 // The fields the constructor fills, with the default functions' addresses.
@@ -81,7 +72,7 @@ TEST(CallbackStruct, DefaultsAndTheCheckThatFillsOnlyNullStubFields)
         else if (stub == stubResults.end())
             EXPECT_EQ(nullptr, field) << n;
         else if (stub->second >= 0)
-            EXPECT_EQ(stub->second, iCallInt(field)) << n;
+            EXPECT_EQ(stub->second, reinterpret_cast<int (*)()>(field)()) << n;
         else
             EXPECT_NE(nullptr, field) << n;
     }
