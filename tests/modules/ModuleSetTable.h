@@ -11,6 +11,7 @@
 
 #include <QMap>
 #include <QRegExp>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QVector>
 #include <algorithm>
@@ -79,9 +80,7 @@ struct SetTable {
                 for (QString const& item : line.section(' ', 1).split(',', Qt::SkipEmptyParts))
                     *lists[word] << item.trimmed();
             else {
-                QStringList cells = line.split('|');
-                for (QString& cell : cells)
-                    cell = cell.trimmed();
+                QStringList cells = line.split(QRegularExpression(R"(\s*\|\s*)"));
                 while (cells.size() <= Hidden)
                     cells << QString();
                 (line.contains("%1") ? grid : rows) << cells;
