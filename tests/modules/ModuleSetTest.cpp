@@ -156,8 +156,9 @@ TYPED_TEST(ModuleSet, ForgetsAndRescalesOnlyTheTabledParametersInOrder)
             for (int i = 0; i < parameters.size(); ++i) {
                 auto* numeric = dynamic_cast<Prm::NumericParameterWithoutType*>(parameters[i]);
                 bool const bScaled = this->table.rescales.contains(parameters[i]->qstrScriptName());
+                double const dFloor = std::floor(before[i][Default].toDouble());
                 for (unsigned int k = 0; bScaled && k < parameters[i]->keyframeCount(); ++k)
-                    EXPECT_EQ(numeric->keyframeValueAsDouble(k), 2 * (k + 1 + std::floor(before[i][Default].toDouble())));
+                    EXPECT_EQ(numeric->keyframeValueAsDouble(k), 2 * (k + 1 + dFloor));
                 if (!bScaled || parameters[i]->keyframeCount() == 0) {
                     EXPECT_EQ(factsOf(*parameters[i]), before[i]) << i;
                 }

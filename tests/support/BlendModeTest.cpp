@@ -9,13 +9,14 @@
 TEST(BlendMode, EachModeLimitsItsResultDifferently)
 {
     float const nan = std::numeric_limits<float>::quiet_NaN(), inf = std::numeric_limits<float>::infinity();
-    AEBlendModeID const add = AE_BLEND_MODE_ADD, sub = AE_BLEND_MODE_SUBTRACT, mul = AE_BLEND_MODE_MULTIPLY;
+    AEBlendModeID const add = AE_BLEND_MODE_ADD, sub = AE_BLEND_MODE_SUBTRACT, mul = AE_BLEND_MODE_MULTIPLY,
+                        none = AEBlendModeID(0), four = AEBlendModeID(4), negative = AEBlendModeID(-1);
     struct { AEBlendModeID eId; float a, b, expected; } const rows[] = {
         {add, 0.75f, 0.75f, 1.0f}, {add, 0.25f, 0.5f, 0.75f}, {add, -2.0f, 1.0f, -1.0f}, {add, 1.0f, 0.0f, 1.0f},
         {sub, 0.25f, 0.75f, 0.0f}, {sub, 3.0f, 1.0f, 2.0f}, {sub, 0.75f, 0.25f, 0.5f},
         {mul, 2.0f, 2.0f, 4.0f}, {mul, -1.0f, 2.0f, -2.0f}, {add, -inf, 0.0f, -inf}, {sub, inf, 0.0f, inf},
         {add, nan, 0.0f, nan}, {sub, 0.0f, nan, nan}, {add, inf, -inf, nan}, {mul, nan, 1.0f, nan},
-        {AEBlendModeID(0), 0.75f, 0.75f, 1.0f}, {AEBlendModeID(4), 0.25f, 0.5f, 0.75f}, {AEBlendModeID(-1), 2.0f, 2.0f, 1.0f}};
+        {none, 0.75f, 0.75f, 1.0f}, {four, 0.25f, 0.5f, 0.75f}, {negative, 2.0f, 2.0f, 1.0f}};
     for (auto const& r : rows) {
         float const result = BlendMode::fromID(r.eId)->blend(r.a, r.b);
         EXPECT_TRUE(std::isnan(r.expected) ? std::isnan(result) : result == r.expected)
