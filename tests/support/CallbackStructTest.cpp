@@ -21,14 +21,8 @@ void* pField(TQ_CallbackStruct const& callbacks, int n)
     return pointer;
 }
 
-template <class F>
-void* pAddress(F function)
-{
-    return reinterpret_cast<void*>(function);
-}
-
 // The fields the constructor fills, with the default functions' addresses.
-#define TQ_DEFAULT(n, name) {n, pAddress(&TQ_CallbackStruct::_default##name)}
+#define TQ_DEFAULT(n, name) {n, reinterpret_cast<void*>(&TQ_CallbackStruct::_default##name)}
 std::map<int, void*> const defaults = {TQ_DEFAULT(15, CacheOriginalClip), TQ_DEFAULT(23, vGLLines),
     TQ_DEFAULT(24, vGLConvexPolygon), TQ_DEFAULT(25, vGLGeneralPolygon), TQ_DEFAULT(26, vGLSetAlpha),
     TQ_DEFAULT(27, vGLGetColour), TQ_DEFAULT(28, vGLEnable), TQ_DEFAULT(29, vGLDisable),
@@ -82,8 +76,8 @@ TEST(CallbackStruct, DefaultsAndTheCheckThatFillsOnlyNullStubFields)
     callbacks.pfnGLLines = nullptr, callbacks.pfnObGetNumberOfProcessors = nullptr;
     vCheckCallbackStruct(&callbacks);
     EXPECT_EQ(0, callbacks.pfnCacheOriginalClip(nullptr));
-    EXPECT_TRUE(callbacks.pfnGLEnable && pAddress(callbacks.pfnGLEnable) != defaults.at(28));
-    EXPECT_TRUE(callbacks.pfnGLDisable && pAddress(callbacks.pfnGLDisable) != defaults.at(29));
+    EXPECT_TRUE(callbacks.pfnGLEnable && reinterpret_cast<void*>(callbacks.pfnGLEnable) != defaults.at(28));
+    EXPECT_TRUE(callbacks.pfnGLDisable && reinterpret_cast<void*>(callbacks.pfnGLDisable) != defaults.at(29));
     callbacks.pfnGLEnable(_TQ_RENDER_STYLE(0));
     EXPECT_TRUE(!callbacks.pfnGLLines && !callbacks.pfnObGetNumberOfProcessors);
 }
