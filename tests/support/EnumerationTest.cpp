@@ -1,3 +1,4 @@
+#include "prm/Fixtures.h"
 #include "support/EnumerationParameters.h"
 #include "support/Enumerations.h"
 #include "support/Strings.h"
@@ -74,11 +75,7 @@ TEST(EnumerationParameter, KeyedAndStaticParametersOverEnumerations)
     EXPECT_EQ(mode.keyframeSuffixString(2.0f), "keyframes.append( Key( 2, 3, Step ) )");
     _TQ_CLIP_MODE clipMode = TQ_CLIP_MODE_PING_PONG;
     Prm::VirtualParameter<_TQ_CLIP_MODE> clip("Mode", &clipMode);
-    QString text;
-    QTextStream out(&text);
-    EXPECT_TRUE(clip.bStreamOut(out, QString(), true));
-    out.flush();
-    EXPECT_EQ(text, "Mode.value=3\n");
+    EXPECT_EQ(qstrStreamed(clip, QString()), "Mode.value=3\n");
     EXPECT_TRUE(clip.bStreamIn("value=1"));
     EXPECT_EQ(clipMode, TQ_CLIP_MODE_REPEAT);
 }
