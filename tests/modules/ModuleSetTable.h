@@ -1,7 +1,6 @@
 #pragma once
 /// Test-side view of a module set: its table, found by the set's name among the data files in `tables/`, and
 /// a typed look at every parameter through the untyped list, so that one set of checks walks all sets.
-#include "clip/Fixtures.h"
 #include "clip/FrameOffsetParameter.h"
 #include "modules/InsertOffsetParameterSet.h"
 #include "modules/InsertROIParameterSet.h"

@@ -1,4 +1,5 @@
 #include "ModuleSetTable.h"
+#include "clip/Fixtures.h"
 #include "prm/Fixtures.h"
 #include "tq.h"
 
