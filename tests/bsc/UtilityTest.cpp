@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <string>
+#include <utility>
 #include <vector>
 
 TEST(Logger, SinkTakesTheTextWithNothingAdded)
@@ -17,28 +18,22 @@ TEST(Logger, SinkTakesTheTextWithNothingAdded)
     Bsc::LOG_STRING(QString());
     Bsc::Logger::instance().setSink({});
     Bsc::LOG_STRING("to standard error");
-    ASSERT_EQ(lines.size(), 2u);
-    EXPECT_EQ(lines[0], "Parameter: 'x' \xc3\xa9");
-    EXPECT_EQ(lines[1], "");
+    EXPECT_EQ(lines, (std::vector<std::string>{"Parameter: 'x' \xc3\xa9", ""}));
 }
 
 TEST(Hash, EqualityFollowsTheBytesFedAndSurvivesComparison)
 {
     Bsc::Hash a, b;
-    EXPECT_TRUE(a == b);
     float const f = 1.5f;
     double const d = 2.25;
-    a.update(&f, sizeof f);
-    EXPECT_FALSE(a == b);
-    b.update(&f, sizeof f);
-    EXPECT_TRUE(a == b);
-
     // Comparing finishes a digest; further bytes must still count.
-    a.update(&d, sizeof d);
-    EXPECT_FALSE(a == b);
-    b.update(&d, sizeof d);
+    for (auto const& [bytes, size] : {std::pair<void const*, std::size_t>{&f, sizeof f}, {&d, sizeof d}}) {
+        EXPECT_TRUE(a == b);
+        a.update(bytes, size);
+        EXPECT_FALSE(a == b);
+        b.update(bytes, size);
+    }
     EXPECT_TRUE(a == b);
-
     Bsc::Hash c = a;
     c.update(&f, sizeof f);
     EXPECT_TRUE(c != a);
@@ -46,9 +41,8 @@ TEST(Hash, EqualityFollowsTheBytesFedAndSurvivesComparison)
     // The digest of "abc" is the published SHA-1 test vector.
     Bsc::Hash abc;
     abc.update("abc", 3);
-    unsigned char const expected[20] = {0xa9, 0x99, 0x3e, 0x36, 0x47, 0x06, 0x81, 0x6a, 0xba, 0x3e,
-                                        0x25, 0x71, 0x78, 0x50, 0xc2, 0x6c, 0x9c, 0xd0, 0xd8, 0x9d};
-    EXPECT_TRUE(std::equal(abc.digest().begin(), abc.digest().end(), expected));
+    EXPECT_EQ(QByteArray(reinterpret_cast<char const*>(abc.digest().data()), 20).toHex(),
+              "a9993e364706816aba3e25717850c26c9cd0d89d");
 }
 
 TEST(IsNear, IsStrictAndSinglePrecision)

@@ -1,9 +1,48 @@
+#include "ModuleSetTable.h"
+#include "modules/Camera3DParameterSet.h"
 #include "modules/Layer3DParameterSet.h"
 #include "prm/text/ParameterTextDocument.h"
 
 #include <gtest/gtest.h>
 
 #include <QPointer>
+
+#include <cmath>
+#include <limits>
+
+TEST(XYZParameterSet, ThreeUnboundedCoordinatesAtFloatPrecision)
+{
+    float const fLargest = std::numeric_limits<float>::max();
+    TQ_XYZParameterSet point("Position");
+    vExpectTable(point, SetTable("Position"));
+    point.setValue(Gan_Vector3{0.1, -2.5, 1e300}, 4.0f);
+    point.setValue(Gan_Vector3{1.0, 2.0, 3.0}, 8.0f);
+    EXPECT_EQ(point.value(4.0f).x, double(0.1f)) << "narrowed to float, then widened";
+    EXPECT_EQ(point.value(4.0f).y, -2.5);
+    EXPECT_EQ(point.value(4.0f).z, double(fLargest)) << "beyond float range: clamped to the limit";
+    EXPECT_EQ(point.value(100.0f).z, 3.0) << "holds after the last key";
+    point.setValue(Gan_Vector3{NAN, 0.0, 0.0}, 9.0f);
+    EXPECT_EQ(point.x()->keyframeValue(2), -fLargest) << "NaN is stored as the minimum";
+    point.deleteAllKeyframes();
+    for (Prm::NumericParameter<float> const* coordinate : {point.x(), point.y(), point.z()})
+        EXPECT_EQ(coordinate->keyframeCount(), 0u);
+}
+
+TEST(Camera3DParameterSet, NamesChildrenFocusAndKeys)
+{
+    TQ_Camera3DParameterSet camera;
+    EXPECT_EQ(camera.qstrScriptName(), "Camera3D");
+    vExpectTable(camera, SetTable("Camera"));
+    camera.setFocus(35.0f, 1.0f);
+    camera.setFocus(50.0f, 3.0f);
+    camera.scale.setValue(Gan_Vector3{2.0, 2.0, 2.0}, 1.0f);
+    EXPECT_EQ(camera.focus()->value(2.0f, nullptr), 0.0f) << "keys of no kind read zero between them";
+    EXPECT_EQ(camera.focus()->value(9.0f, nullptr), 50.0f);
+    TQ_Camera3DParameterSet copy(camera);
+    EXPECT_EQ(Prm::ParameterTextDocument(copy).qstrWrite(), Prm::ParameterTextDocument(camera).qstrWrite());
+    camera.deleteAllKeyframes();
+    EXPECT_EQ(camera.focus()->keyframeCount() + camera.scale.x()->keyframeCount(), 0u);
+}
 
 TEST(Layer3DParameterSet, CreateFindAndIdsAsUnsigned)
 {

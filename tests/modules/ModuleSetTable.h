@@ -1,9 +1,6 @@
 #pragma once
 /// Test-side view of a module set: its table, found by the set's name among the data files in `tables/`, and
 /// a typed look at every parameter through the untyped list, so that one set of checks walks all sets.
-#include "clip/BaseClipInfo.h"
-#include "clip/BaseClipInfoContainer.h"
-#include "clip/Fixtures.h"
 #include "clip/FrameOffsetParameter.h"
 #include "modules/InsertOffsetParameterSet.h"
 #include "modules/InsertROIParameterSet.h"
@@ -12,37 +9,31 @@
 #include <gtest/gtest.h>
 
 #include <QMap>
+#include <QRegExp>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QVector>
+#include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <ostream>
 #include <type_traits>
 
+/// Failures print texts as texts.
 inline void PrintTo(QString const& text, std::ostream* out)
 {
     *out << '"' << text.toStdString() << '"';
 }
 
-/// One row: the columns of the data file, blank cells as empty strings.
-struct TableRow {
-    QString name, kind, keyed, initial, minimum, maximum, interpolation, extrapolation, displayName, hidden;
-};
+/// The columns of a row, blank cells as empty strings.
+enum Column { Name, Kind, Keyed, Default, Minimum, Maximum, InterpolationRule, ExtrapolationRule, DisplayName, Hidden };
 
-/// A set's data file: rows plus the set's name, moved parameters, forgotten clips and rescaled parameters
-/// (children's included, in order), what its assignment keeps (parameters, "clipContainer", child sets; a
-/// trailing * matches any ending), its child sets, and the parameters whose hidden flag `init()` sets
-/// ("*": all). Rows whose name holds %1 and %2 stand for the 17 x 17 weight grid, cell by cell.
-struct SetTable {
-    QString name;
-    QStringList moved, forgets, rescales, kept, children, flagsByInit;
-    QVector<TableRow> rows;
-
-    explicit SetTable(QString const& setName)
-    {
-        static char const* const allTables =
+/// The module sets' data files, one after another.
+inline char const* const moduleSetTables =
 #include "tables/Basic.table"
 #include "tables/Blur.table"
+#include "tables/Camera3D.table"
 #include "tables/Colour.table"
 #include "tables/ColourBand.table"
 #include "tables/ColourFilter.table"
@@ -57,12 +48,26 @@ struct SetTable {
 #include "tables/Stabilize.table"
 #include "tables/Track.table"
 #include "tables/Warper.table"
-            ;
-        QVector<TableRow> grid;
-        QStringList* const lists[] = {&moved, &forgets, &rescales, &kept, &children, &flagsByInit};
-        QStringList const words = {"moved", "forgets", "rescales", "kept", "children", "flags-by-init"};
+    ;
+
+/// One set of a data file ("set <name>" up to the next "set"): rows of cells plus the set's name, moved
+/// parameters, forgotten clips and rescaled parameters (children's included, in order), what its assignment
+/// keeps (parameters, "clipContainer", child sets; * matches any ending), its child sets, and the parameters
+/// whose hidden flag `init()` sets ("*": all). Rows whose name holds %1 and %2 stand for the 17 x 17 weight
+/// grid, cell by cell. `text` may be another folder's tables, in the same form.
+struct SetTable {
+    QString name;
+    QStringList moved, forgets, rescales, kept, children, flagsByInit;
+    QVector<QStringList> rows;
+
+    explicit SetTable(QString const& setName, char const* text = moduleSetTables)
+    {
+        QVector<QStringList> grid;
+        QMap<QString, QStringList*> const lists{{"moved", &moved},     {"forgets", &forgets},
+                                                 {"rescales", &rescales}, {"kept", &kept},
+                                                 {"children", &children}, {"flags-by-init", &flagsByInit}};
         QString current;
-        for (QString const& line : QString::fromUtf8(allTables).split('\n', Qt::SkipEmptyParts)) {
+        for (QString const& line : QString::fromUtf8(text).split('\n', Qt::SkipEmptyParts)) {
             QString const word = line.section(' ', 0, 0);
             if (word == "set")
                 current = line.section(' ', 1);
@@ -70,22 +75,19 @@ struct SetTable {
                 continue;
             if (word == "set")
                 name = current;
-            else if (words.contains(word))
+            else if (lists.contains(word))
                 for (QString const& item : line.section(' ', 1).split(',', Qt::SkipEmptyParts))
-                    *lists[words.indexOf(word)] << item.trimmed();
+                    *lists[word] << item.trimmed();
             else {
-                QStringList cells = line.split('|');
-                for (QString& cell : cells)
-                    cell = cell.trimmed();
-                while (cells.size() < 10)
+                QStringList cells = line.split(QRegularExpression(R"(\s*\|\s*)"));
+                while (cells.size() <= Hidden)
                     cells << QString();
-                (line.contains("%1") ? grid : rows) << TableRow{cells[0], cells[1], cells[2], cells[3], cells[4],
-                                                                 cells[5], cells[6], cells[7], cells[8], cells[9]};
+                (line.contains("%1") ? grid : rows) << cells;
             }
         }
         for (int cell = 0; cell < 17 * 17 && !grid.isEmpty(); ++cell)
-            for (TableRow each : grid) {
-                each.name = each.name.arg(cell / 17).arg(cell % 17);
+            for (QStringList each : grid) {
+                each[Name] = each[Name].arg(cell / 17).arg(cell % 17);
                 rows << each;
             }
     }
@@ -93,10 +95,9 @@ struct SetTable {
     /// Whether assignment leaves `member` as it was.
     bool bKept(QString const& member) const
     {
-        for (QString const& entry : kept)
-            if (entry == member || (entry.endsWith('*') && member.startsWith(entry.chopped(1))))
-                return true;
-        return false;
+        return std::any_of(kept.begin(), kept.end(), [&member](QString const& entry) {
+            return QRegExp(entry, Qt::CaseSensitive, QRegExp::Wildcard).exactMatch(member);
+        });
     }
 };
 
@@ -117,33 +118,22 @@ struct DefaultInterpolation : Prm::Parameter<T> {
     }
 };
 
+/// A value as the tables write it: quoted text, true or false, the shortest decimal that reads back as the
+/// same value, the limits of the floating types as "largest float" or "largest double" with a sign.
 template <class T>
-QString qstrOf(T const& value)
+QString qstrCell(T const& value)
 {
     if constexpr (std::is_same<T, QString>::value)
         return '"' + value + '"';
-    else
-        return QString::number(static_cast<double>(value), 'g', 17);
-}
-
-/// A cell as a value of `T`: a text cell is quoted in the table.
-template <class T>
-T tFromCell(QString const& cell)
-{
-    if constexpr (std::is_same<T, QString>::value)
-        return cell.mid(1, cell.size() - 2);
-    else {
-        double const largest = cell.endsWith("float") ? double(std::numeric_limits<float>::max())
-                                                      : std::numeric_limits<double>::max();
-        double const value = cell == "true"                 ? 1
-                             : cell.endsWith("largest float") || cell.endsWith("largest double")
-                                 ? (cell.startsWith('-') ? -largest : largest)
-                                 : cell.toDouble();
-        if constexpr (std::is_enum<T>::value)
-            return static_cast<T>(static_cast<int>(value));
-        else
-            return static_cast<T>(value);
-    }
+    else if constexpr (std::is_same<T, bool>::value)
+        return value ? "true" : "false";
+    else if constexpr (std::is_floating_point<T>::value) {
+        if (std::abs(value) == std::numeric_limits<T>::max())
+            return QString(value < 0 ? "-" : "") + (sizeof(T) == sizeof(float) ? "largest float" : "largest double");
+        char text[32];
+        return QString::fromLatin1(text, int(std::to_chars(text, text + sizeof text, value).ptr - text));
+    } else
+        return QString::number(static_cast<long long>(value));
 }
 
 template <class T>
@@ -172,13 +162,15 @@ bool bVisit(Prm::ParameterWithoutType& parameter, F&& visit)
 #undef TQ_TRY_TYPE
 }
 
-/// Everything a parameter holds but its names and visibility: kind, keys, values, rules and limits.
+/// Everything a parameter holds: its row's cells in the tables' notation (a display name equal to the
+/// script name left blank), then its static value, its extrapolation before the keys and its keys.
 inline QStringList factsOf(Prm::ParameterWithoutType& parameter)
 {
     QStringList facts;
     bool const bKnown = bVisit(parameter, [&](auto const& typed, QString const& type) {
         using T = std::decay_t<decltype(typed.staticValue())>;
         auto const* numeric = numericOf(typed);
+        auto const rule = [](int rule, char const* one) { return rule == 2 ? "linear" : rule == 1 ? one : "0"; };
         QString const kind = dynamic_cast<PrmFrameOffset const*>(&typed) ? QString("PrmFrameOffset")
                              : dynamic_cast<TQ::ROIParameter const*>(&typed)
                                  ? QString("TQ_InsertROIParameterSet::ROIParameter")
@@ -186,42 +178,38 @@ inline QStringList factsOf(Prm::ParameterWithoutType& parameter)
                                  ? QString("TQ_InsertOffsetParameterSet::RotationParameter")
                              : numeric ? "NumericParameter<" + type + ">"
                                        : "Parameter<" + type + ">";
-        facts << kind << (typed.isKeyframed() ? "yes" : "no") << qstrOf(typed.staticValue())
-              << qstrOf(typed.defaultValue()) << QString::number(DefaultInterpolation<T>::of(typed))
-              << QString::number(typed.extrapolationBefore()) << QString::number(typed.extrapolationAfter());
-        if (numeric)
-            facts << qstrOf(numeric->minimum()) << qstrOf(numeric->maximum());
+        facts << typed.qstrScriptName() << kind << (typed.isKeyframed() ? "yes" : "no")
+              << qstrCell(typed.defaultValue()) << (numeric ? qstrCell(numeric->minimum()) : QString())
+              << (numeric ? qstrCell(numeric->maximum()) : QString())
+              << rule(DefaultInterpolation<T>::of(typed), "step") << rule(typed.extrapolationAfter(), "hold")
+              << (typed.qstrDisplayName() == typed.qstrScriptName() ? QString() : typed.qstrDisplayName())
+              << (typed.isHidden() ? "yes" : "no") << qstrCell(typed.staticValue())
+              << rule(typed.extrapolationBefore(), "hold");
         for (unsigned int i = 0; i < typed.keyframeCount(); ++i)
-            facts << QString("key %1 %2 %3")
-                         .arg(typed.keyframeTime(i))
-                         .arg(qstrOf(typed.keyframeValue(i)))
+            facts << QString("key %1 %2 %3").arg(typed.keyframeTime(i)).arg(qstrCell(typed.keyframeValue(i)))
                          .arg(typed.interpolation(i));
     });
     return bKnown ? facts : QStringList{"unknown value type"};
 }
 
-/// Display name and hidden flag.
-inline QStringList looksOf(Prm::ParameterWithoutType const& parameter)
+/// Expects `set` to follow `table`: display name, moved parameters, child sets, then row by row, each
+/// parameter holding its default and extrapolating alike both ways.
+inline void vExpectTable(Prm::ParameterSet const& set, SetTable const& table)
 {
-    return {parameter.qstrDisplayName(), parameter.isHidden() ? "yes" : "no"};
-}
-
-/// What `factsOf` and `looksOf` give for a fresh parameter of this row.
-inline QStringList expectedFacts(Prm::ParameterWithoutType& parameter, TableRow const& row)
-{
-    QStringList facts;
-    bVisit(parameter, [&](auto const& typed, QString const&) {
-        using T = std::decay_t<decltype(typed.staticValue())>;
-        QString const initial = qstrOf(tFromCell<T>(row.initial));
-        auto const rule = [](QString const& cell) {
-            return QString::number(cell == "linear" ? 2 : cell == "step" || cell == "hold" ? 1 : 0);
-        };
-        facts << row.kind << row.keyed << initial << initial << rule(row.interpolation) << rule(row.extrapolation)
-              << rule(row.extrapolation);
-        if (!row.minimum.isEmpty())
-            facts << qstrOf(tFromCell<T>(row.minimum)) << qstrOf(tFromCell<T>(row.maximum));
-    });
-    return facts << (row.displayName.isEmpty() ? row.name : row.displayName) << row.hidden;
+    EXPECT_EQ(set.qstrDisplayName(), table.name);
+    QStringList moved, children;
+    for (Prm::BasicParameter const* basic : set.basicParameterList())
+        moved << basic->scriptName();
+    for (Prm::ParameterSet const* child : set.childSetList())
+        children << child->qstrScriptName();
+    EXPECT_EQ(moved, table.moved);
+    EXPECT_EQ(children, table.children) << "child sets in the order of the text";
+    QVector<Prm::ParameterWithoutType*> const parameters = set.parameterList();
+    ASSERT_EQ(parameters.size(), table.rows.size()) << table.name.toStdString();
+    for (int i = 0; i < parameters.size(); ++i) {
+        QStringList const& row = table.rows[i];
+        EXPECT_EQ(factsOf(*parameters[i]), row + QStringList({row[Default], row[ExtrapolationRule]}));
+    }
 }
 
 /// A value different from the default for `step` 1 (and mostly for 2), inside the limits.
@@ -252,15 +240,11 @@ inline void vMutate(Prm::ParameterSet const& set, int seed)
 {
     for (Prm::ParameterWithoutType* parameter : everyParameter(set)) {
         bVisit(*parameter, [&](auto& typed, QString const&) {
-            if (!typed.isKeyframed()) {
-                typed.vSetValue(tPick(typed, seed), 0.0f);
-                return;
+            typed.vSetValue(tPick(typed, seed), 2.0f); // the static value when not keyed
+            if (typed.isKeyframed()) {
+                typed.vSetValue(tPick(typed, seed + 1), 9.0f);
+                typed.vSetExtrapolationAfter(Prm::ExtrapolationLinear);
             }
-            typed.vSetValue(tPick(typed, seed), 2.0f);
-            typed.vSetValue(tPick(typed, seed + 1), 9.0f);
-            typed.vSetExtrapolationAfter(Prm::ExtrapolationLinear);
         });
     }
 }
-
-using TQTest::Clips;

@@ -4,16 +4,14 @@
 
 TEST(WarperParameterSet, WeightsAsBSplineGridClampedAtFloatPrecision)
 {
-    auto const grid = [](double scale) {
+    TQ_WarperParameterSet warper;
+    for (double const scale : {0.1, 10.0}) {
         Gan_CubicBSplineWeights weights;
         for (int row = 0; row < 17; ++row)
             for (int column = 0; column < 17; ++column)
                 weights.weight[row][column] = Gan_Vector2{scale * row - column, scale * column + 0.5};
-        return weights;
-    };
-    TQ_WarperParameterSet warper;
-    warper.Weights.setWeights(grid(0.1), 4.0f);
-    warper.Weights.setWeights(grid(10.0), 8.0f);
+        warper.Weights.setWeights(weights, scale < 1.0 ? 4.0f : 8.0f);
+    }
     Gan_CubicBSplineWeights const at4 = warper.Weights.weights(4.0f);
     EXPECT_EQ(at4.weight[3][2].x, double(float(0.1 * 3 - 2)));
     EXPECT_EQ(at4.weight[16][16].y, double(float(0.1 * 16 + 0.5)));

@@ -21,36 +21,13 @@ void* pField(TQ_CallbackStruct const& callbacks, int n)
     return pointer;
 }
 
-template <class F>
-void* pAddress(F function)
-{
-    void* pointer = nullptr;
-    std::memcpy(&pointer, &function, sizeof pointer);
-    return pointer;
-}
-
-int iCallInt(void* field)
-{
-    int (*function)() = nullptr;
-    std::memcpy(&function, &field, sizeof function);
-    return function();
-}
-
-std::map<int, void*> const& constructorDefaults()
-{
-    static std::map<int, void*> const defaults = {
-        {15, pAddress(&TQ_CallbackStruct::_defaultCacheOriginalClip)},
-        {23, pAddress(&TQ_CallbackStruct::_defaultvGLLines)},
-        {24, pAddress(&TQ_CallbackStruct::_defaultvGLConvexPolygon)},
-        {25, pAddress(&TQ_CallbackStruct::_defaultvGLGeneralPolygon)},
-        {26, pAddress(&TQ_CallbackStruct::_defaultvGLSetAlpha)},
-        {27, pAddress(&TQ_CallbackStruct::_defaultvGLGetColour)},
-        {28, pAddress(&TQ_CallbackStruct::_defaultvGLEnable)},
-        {29, pAddress(&TQ_CallbackStruct::_defaultvGLDisable)},
-        {60, pAddress(&TQ_CallbackStruct::_defaultObGetNumberOfProcessors)},
-    };
-    return defaults;
-}
+// The fields the constructor fills, with the default functions' addresses.
+#define TQ_DEFAULT(n, name) {n, reinterpret_cast<void*>(&TQ_CallbackStruct::_default##name)}
+std::map<int, void*> const defaults = {TQ_DEFAULT(15, CacheOriginalClip), TQ_DEFAULT(23, vGLLines),
+    TQ_DEFAULT(24, vGLConvexPolygon), TQ_DEFAULT(25, vGLGeneralPolygon), TQ_DEFAULT(26, vGLSetAlpha),
+    TQ_DEFAULT(27, vGLGetColour), TQ_DEFAULT(28, vGLEnable), TQ_DEFAULT(29, vGLDisable),
+    TQ_DEFAULT(60, ObGetNumberOfProcessors)};
+#undef TQ_DEFAULT
 
 // What the stubs of the check return; -1 for the stubs that return nothing.
 std::map<int, int> const stubResults = {
@@ -58,20 +35,13 @@ std::map<int, int> const stubResults = {
     {31, -1}, {32, -1}, {39, -1}, {40, -1}, {41, -1}, {42, -1}, {43, 0},
 };
 
-int iSeven()
-{
-    return 7;
-}
-
 } // namespace
 
 TEST(CallbackStruct, DefaultsAndTheCheckThatFillsOnlyNullStubFields)
 {
     TQ_CallbackStruct callbacks;
-    for (int n = 1; n <= 68; ++n) {
-        auto const found = constructorDefaults().find(n);
-        EXPECT_EQ(found == constructorDefaults().end() ? nullptr : found->second, pField(callbacks, n)) << n;
-    }
+    for (int n = 1; n <= 68; ++n)
+        EXPECT_EQ(defaults.count(n) ? defaults.at(n) : nullptr, pField(callbacks, n)) << n;
     // The defaults: a cache that reports success, one processor, a colour left as it was, no handles.
     EXPECT_EQ(1, callbacks.pfnCacheOriginalClip(nullptr));
     EXPECT_EQ(1, callbacks.pfnObGetNumberOfProcessors(nullptr));
@@ -83,21 +53,20 @@ TEST(CallbackStruct, DefaultsAndTheCheckThatFillsOnlyNullStubFields)
                                            callbacks.pfnGLGeneralPolygon({vertices, vertices})})
         EXPECT_TRUE(!handle && handle.use_count() == 0);
 
-    callbacks.callback01 = iSeven;
+    callbacks.callback01 = [] { return 7; };
     vCheckCallbackStruct(&callbacks);
     vCheckCallbackStruct(nullptr);
     EXPECT_TRUE(callbacks.imageProvider.empty());
     EXPECT_EQ(7, callbacks.callback01());
     for (int n = 2; n <= 68; ++n) {
         void* const field = pField(callbacks, n);
-        auto const defaulted = constructorDefaults().find(n);
         auto const stub = stubResults.find(n);
-        if (defaulted != constructorDefaults().end())
-            EXPECT_EQ(defaulted->second, field) << n;
+        if (defaults.count(n))
+            EXPECT_EQ(defaults.at(n), field) << n;
         else if (stub == stubResults.end())
             EXPECT_EQ(nullptr, field) << n;
         else if (stub->second >= 0)
-            EXPECT_EQ(stub->second, iCallInt(field)) << n;
+            EXPECT_EQ(stub->second, reinterpret_cast<int (*)()>(field)()) << n;
         else
             EXPECT_NE(nullptr, field) << n;
     }
@@ -107,8 +76,8 @@ TEST(CallbackStruct, DefaultsAndTheCheckThatFillsOnlyNullStubFields)
     callbacks.pfnGLLines = nullptr, callbacks.pfnObGetNumberOfProcessors = nullptr;
     vCheckCallbackStruct(&callbacks);
     EXPECT_EQ(0, callbacks.pfnCacheOriginalClip(nullptr));
-    EXPECT_TRUE(callbacks.pfnGLEnable && pAddress(callbacks.pfnGLEnable) != constructorDefaults().at(28));
-    EXPECT_TRUE(callbacks.pfnGLDisable && pAddress(callbacks.pfnGLDisable) != constructorDefaults().at(29));
+    EXPECT_TRUE(callbacks.pfnGLEnable && reinterpret_cast<void*>(callbacks.pfnGLEnable) != defaults.at(28));
+    EXPECT_TRUE(callbacks.pfnGLDisable && reinterpret_cast<void*>(callbacks.pfnGLDisable) != defaults.at(29));
     callbacks.pfnGLEnable(_TQ_RENDER_STYLE(0));
     EXPECT_TRUE(!callbacks.pfnGLLines && !callbacks.pfnObGetNumberOfProcessors);
 }
@@ -118,9 +87,8 @@ TEST(RenderSuite, HasTheOneSlot)
     QMetaObject const& meta = TQ::RenderSuite::staticMetaObject;
     EXPECT_STREQ("TQ::RenderSuite", meta.className());
     ASSERT_EQ(1, meta.methodCount() - meta.methodOffset());
-    QMetaMethod const slot = meta.method(meta.methodOffset());
-    EXPECT_EQ(QMetaMethod::Slot, slot.methodType());
-    EXPECT_EQ("destroyResources()", slot.methodSignature());
+    EXPECT_EQ(QMetaMethod::Slot, meta.method(meta.methodOffset()).methodType());
+    EXPECT_EQ("destroyResources()", meta.method(meta.methodOffset()).methodSignature());
 }
 
 TEST(AutoLock, TakesNoLock)

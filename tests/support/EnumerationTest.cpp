@@ -1,3 +1,5 @@
+#include "prm/Fixtures.h"
+#include "support/EnumerationParameters.h"
 #include "support/Enumerations.h"
 #include "support/Strings.h"
 
@@ -6,6 +8,7 @@
 #include <QStringList>
 #include <QTextStream>
 #include <QVariant>
+#include <QVector>
 
 #include <iterator>
 
@@ -35,26 +38,20 @@ int read(QString text, E initial)
 TEST(Enumerations, WriteDecimalAndReadThroughTheUnsignedReader)
 {
     // Written as a signed int even though it is read as unsigned.
-    QString const pairs[][2] = {
-        {written(TQ_CLIP_MODE_PING_PONG), "3"}, {written(TQ_COLORSPACE_PANALOG), "2"}, {written(TQ_TRUE), "1"},
-        {written(GAN_DISTORTION_MAP), "15"}, {written(GAN_FLOAT), "8"}, {written(GAN_UNDEFINED_IMAGE_FORMAT), "13"},
-        {written(static_cast<TQ_BlendMode>(-5)), "-5"}};
-    for (auto const& pair : pairs)
-        EXPECT_EQ(pair[0], pair[1]);
+    EXPECT_EQ(QStringList({written(TQ_CLIP_MODE_PING_PONG), written(TQ_COLORSPACE_PANALOG), written(TQ_TRUE),
+                           written(GAN_DISTORTION_MAP), written(GAN_FLOAT), written(GAN_UNDEFINED_IMAGE_FORMAT),
+                           written(static_cast<TQ_BlendMode>(-5))}),
+              QStringList({"3", "2", "1", "15", "8", "13", "-5"}));
 
     // Numbers that name no enumerator are kept; above INT_MAX the unsigned number wraps into the int-sized
     // value. No digits: the unsigned reader fails and gives 0, which replaces the old value. Qt's unsigned
     // reader takes a sign and wraps; the value comes back as the int it was written from.
-    int const reads[][2] = {
-        {read(QStringLiteral("7"), TQ_CLIP_MODE_DONT_REPEAT), 7}, {read(QStringLiteral("99"), TQ_INTERLACE_NONE), 99},
-        {read(QStringLiteral("1234"), TRACK_MODEL_DEFAULT), 1234}, {read(QStringLiteral("11"), GAN_LINEAR_CAMERA), 11},
-        {read(QStringLiteral("4000000"), GAN_UNDEFINED_TYPE), 4000000},
-        {read(QStringLiteral("  2 rest"), TQ_COLORSPACE_GAMMA), TQ_COLORSPACE_PANALOG},
-        {read(QStringLiteral("4294967295"), TQ_FALSE), -1}, {read(QStringLiteral("x"), TQ_CLIP_MODE_LOOP), 0},
-        {read(QStringLiteral("-1"), TQ_CLIP_MODE_LOOP), -1},
-        {read(written(static_cast<TQ_BlendMode>(-5)), TQ_BLEND_MODE_DEFAULT), -5}};
-    for (int i = 0; i < int(std::size(reads)); ++i)
-        EXPECT_EQ(reads[i][0], reads[i][1]) << "read row " << i;
+    EXPECT_EQ((QVector<int>{read("7", TQ_CLIP_MODE_DONT_REPEAT), read("99", TQ_INTERLACE_NONE),
+                            read("1234", TRACK_MODEL_DEFAULT), read("11", GAN_LINEAR_CAMERA),
+                            read("4000000", GAN_UNDEFINED_TYPE), read("  2 rest", TQ_COLORSPACE_GAMMA),
+                            read("4294967295", TQ_FALSE), read("x", TQ_CLIP_MODE_LOOP), read("-1", TQ_CLIP_MODE_LOOP),
+                            read(written(static_cast<TQ_BlendMode>(-5)), TQ_BLEND_MODE_DEFAULT)}),
+              (QVector<int>{7, 99, 1234, 11, 4000000, TQ_COLORSPACE_PANALOG, -1, 0, -1, -5}));
 
     // The operators chain and leave the stream after the number.
     QString text = QStringLiteral("3 1 15");
@@ -67,6 +64,22 @@ TEST(Enumerations, WriteDecimalAndReadThroughTheUnsignedReader)
     EXPECT_EQ(in.status(), QTextStream::Ok);
 }
 
+// The parameters over these enumerations write and read them as decimal numbers. (Variants are left alone
+// here: the metatypes must still be unregistered when the test below looks at them.)
+TEST(EnumerationParameter, KeyedAndStaticParametersOverEnumerations)
+{
+    Prm::Parameter<TQ_BlendMode> mode(true, "Mode", TQ_BLEND_MODE_DEFAULT, Prm::InterpolationStep,
+                                      Prm::ExtrapolationHold);
+    EXPECT_TRUE(mode.streamInValue("keyframes.append( Key( 2, 3, Step ) )", {}));
+    EXPECT_EQ(mode.value(2.0f, nullptr), TQ_BlendMode(3));
+    EXPECT_EQ(mode.keyframeSuffixString(2.0f), "keyframes.append( Key( 2, 3, Step ) )");
+    _TQ_CLIP_MODE clipMode = TQ_CLIP_MODE_PING_PONG;
+    Prm::VirtualParameter<_TQ_CLIP_MODE> clip("Mode", &clipMode);
+    EXPECT_EQ(qstrStreamed(clip, QString()), "Mode.value=3\n");
+    EXPECT_TRUE(clip.bStreamIn("value=1"));
+    EXPECT_EQ(clipMode, TQ_CLIP_MODE_REPEAT);
+}
+
 namespace {
 
 // Checks one type's registration on first use. Each type is touched here for the first time in the
@@ -74,13 +87,12 @@ namespace {
 template <typename E>
 void expectRegisteredOnFirstUse(char const* name, int iSample)
 {
-    SCOPED_TRACE(name);
-    EXPECT_EQ(QMetaType::type(name), int(QMetaType::UnknownType));
+    EXPECT_EQ(QMetaType::type(name), int(QMetaType::UnknownType)) << name;
     int const id = qMetaTypeId<E>();
-    EXPECT_TRUE(id != QMetaType::UnknownType && qMetaTypeId<E>() == id && QMetaType::type(name) == id);
-    EXPECT_TRUE(QMetaType::typeName(id) == QByteArray(name) && QMetaType::sizeOf(id) == 4);
     QVariant const carried = QVariant::fromValue(static_cast<E>(iSample));
-    EXPECT_TRUE(carried.userType() == id && carried.value<E>() == static_cast<E>(iSample));
+    EXPECT_TRUE(id != QMetaType::UnknownType && qMetaTypeId<E>() == id && QMetaType::type(name) == id) << name;
+    EXPECT_TRUE(QMetaType::typeName(id) == QByteArray(name) && QMetaType::sizeOf(id) == 4) << name;
+    EXPECT_TRUE(carried.userType() == id && carried.value<E>() == static_cast<E>(iSample)) << name;
 }
 
 } // namespace
@@ -104,23 +116,20 @@ TEST(Enumerations, MetatypesRegisterOnFirstUseUnderTheirNames)
 TEST(Strings, ExportedTablesAndModuleNames)
 {
     using namespace TQ::Strings;
-    auto const list = [](auto const& table) { return QStringList(std::begin(table), std::end(table)); };
-    EXPECT_EQ(list(_TQ_CLIP_MODE_NAME), QStringList({"Don't repeat", "Repeat", "Loop", "Ping-pong"}));
-    EXPECT_EQ(list(_TQ_PRIMATTE_SAMPLEOP_NAME),
-              QStringList({"Select Background", "Clean Background", "Clean Foreground", "Fine Tuning",
-                           "Matte Sponge", "Spill Sponge", "Make FG Transparent", "Restore Detail", "Spill +",
-                           "Spill -", "Matte +", "Matte -", "Detail +", "Detail -"}));
-    EXPECT_EQ(list(_TQ_KOLBEDATA_FORMAT_NAME), QStringList({"Result clips", "Shake script using pre-rendered clips",
-                                                             "Shake script using lufex plugins"}));
-    EXPECT_EQ(list(_TQ_KOLBEDATA_FORMAT_EXTENSION), QStringList({".txt", ".shk", ".shk"}));
-    EXPECT_EQ(list(_TQ_TIMECODEFORMAT_NAME),
-              QStringList({"30 fps non-drop", "30 fps drop-frame", "25 fps", "24 fps"}));
-    char const* const others[] = {_TQ_LayerDataFormatName, _TQ_LayerDataFormatExtension, MODULESTRING_CLIP,
-                                  MODULESTRING_CAMERA, MODULESTRING_LENS, MODULESTRING_TRACK2D,
-                                  MODULESTRING_ADJUSTTRACK, MODULESTRING_REMOVE, MODULESTRING_STABILIZE,
-                                  MODULESTRING_INSERT, MODULESTRING_WARPER, MODULESTRING_CAMERASOLVE};
-    EXPECT_EQ(list(others), QStringList({"Vantrel Layer Script (*.layer)", ".layer", "Clip", "Camera", "Lens",
-                                         "Track", "AdjustTrack", "Remove", "Stabilize", "Insert", "Warp",
-                                         "Camera Solve"}));
-    EXPECT_EQ(QString::fromLatin1(MATTE_CLIP_PREFIX_FORMAT).arg("Plate"), "Matte for Plate");
+#define TQ_TABLE(t) QString(#t ": ") + QStringList(std::begin(t), std::end(t)).join('|')
+#define TQ_TEXT(t) QString(#t ": ") + t
+    QStringList const actual = {TQ_TABLE(_TQ_CLIP_MODE_NAME), TQ_TABLE(_TQ_PRIMATTE_SAMPLEOP_NAME),
+        TQ_TABLE(_TQ_KOLBEDATA_FORMAT_NAME), TQ_TABLE(_TQ_KOLBEDATA_FORMAT_EXTENSION),
+        TQ_TABLE(_TQ_TIMECODEFORMAT_NAME), TQ_TEXT(_TQ_LayerDataFormatName), TQ_TEXT(_TQ_LayerDataFormatExtension),
+        TQ_TEXT(MODULESTRING_CLIP), TQ_TEXT(MODULESTRING_CAMERA), TQ_TEXT(MODULESTRING_LENS),
+        TQ_TEXT(MODULESTRING_TRACK2D), TQ_TEXT(MODULESTRING_ADJUSTTRACK), TQ_TEXT(MODULESTRING_REMOVE),
+        TQ_TEXT(MODULESTRING_STABILIZE), TQ_TEXT(MODULESTRING_INSERT), TQ_TEXT(MODULESTRING_WARPER),
+        TQ_TEXT(MODULESTRING_CAMERASOLVE), TQ_TEXT(MATTE_CLIP_PREFIX_FORMAT)};
+#undef TQ_TABLE
+#undef TQ_TEXT
+    QStringList expected = QString(
+#include "data/Strings.txt"
+        ).split('\n', Qt::SkipEmptyParts);
+    expected.removeFirst(); // the heading
+    EXPECT_EQ(actual, expected);
 }

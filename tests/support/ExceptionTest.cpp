@@ -1,11 +1,15 @@
 #include "support/Exception.h"
+#include "support/GandalfFailure.h"
 #include "support/XMLErrorHandler.h"
+
+#include "gandalf/Error.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <sstream>
 #include <string>
+#include <tuple>
 
 namespace {
 
@@ -23,7 +27,7 @@ std::unique_ptr<TQ_Exception> make()
 
 } // namespace
 
-TEST(Exception, EachClassDumpsItsBannerThenTheFields)
+TEST(Exception, EachClassDumpsItsBannerThenTheFieldsRepeatably)
 {
     struct { std::unique_ptr<TQ_Exception> (*make)(); char const* banner; } const cases[] = {
         {make<TQ_Exception>, "===> TQ_Exception\n"},
@@ -41,27 +45,25 @@ TEST(Exception, EachClassDumpsItsBannerThenTheFields)
         EXPECT_EQ(dumpOf(*exception), c.banner + std::string("File:a:7:\nContext: b\nMessage: c\n\n") + '\0');
         EXPECT_STREQ(exception->what(), "c");
     }
-}
-
-TEST(Exception, DumpsAreRepeatableCopiesKeepTheFieldsAndTheFamilyCatchesAsOne)
-{
+    // A later dump of a shorter text leaves nothing of the longer one behind; dumps repeat.
     TQ_BadFile badFile("src/x.cpp", 42, "vLoad", "no such file");
     std::string const first = dumpOf(badFile);
     TQ_Exception empty("", 0, "", "");
     EXPECT_EQ(dumpOf(empty), std::string("===> TQ_Exception\nFile::0:\nContext: \nMessage: \n\n") + '\0');
-    // A later dump of a shorter text leaves nothing of the longer one behind.
     EXPECT_EQ(dumpOf(badFile), first);
+}
 
-    TQ_OutOfRange const original("f", -3, "ctx", "index 9 of 4");
-    TQ_OutOfRange const copy(original);
-    EXPECT_TRUE(copy.file == "f" && copy.line == -3 && copy.context == "ctx" && copy.message == "index 9 of 4");
-    try {
-        throw TQ_GandalfError("g", 1, "c", "m");
-    } catch (std::exception& caught) {
-        EXPECT_STREQ(caught.what(), "m");
-        std::string const dump = dynamic_cast<TQ_Exception&>(caught).Dump();
-        EXPECT_EQ(dump.rfind("===> Gandalf library error.\n", 0), 0u);
-    }
+TEST(GandalfFailure, LeavesExactlyOneEntryAndReturnsFalse)
+{
+    gan_err_register_fileline("earlier", 1, "e.cpp", 1, "stale", 0);
+    EXPECT_FALSE(bGandalfFailure("vFill", GAN_ERROR_ILLEGAL_ARGUMENT, "lut.cpp", 31, "size 0", 5));
+    ASSERT_EQ(gan_err_get_error_count(), 1);
+    char const *function = nullptr, *file = nullptr, *message = nullptr;
+    int code = 0, line = 0, number = 0;
+    ASSERT_EQ(gan_err_get_error(0, &function, &code, &file, &line, &message, &number), 1);
+    EXPECT_EQ(std::make_tuple(std::string(function), code, std::string(file), line, std::string(message), number),
+              std::make_tuple(std::string("vFill"), int(GAN_ERROR_ILLEGAL_ARGUMENT), std::string("lut.cpp"), 31,
+                              std::string("size 0"), 5));
 }
 
 QT_WARNING_PUSH
