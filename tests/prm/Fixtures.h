@@ -2,6 +2,7 @@
 #include "bsc/Logger.h"
 #include "prm/NumericParameter.h"
 #include "prm/ParameterWithoutType.h"
+#include "prm/text/StreamOperators.h"
 
 #include <gtest/gtest.h>
 
@@ -52,6 +53,23 @@ Keys<P> keysOf(P const& parameter)
     for (unsigned int i = 0; i < parameter.keyframeCount(); ++i)
         keys.emplace_back(parameter.keyframeTime(i), parameter.keyframeValue(i));
     return keys;
+}
+
+/// The parameter's state on one line: the static value, then each key as time:value followed by its curve
+/// kind's initial (a custom kind by its number), e.g. "0.5 | 0:0L 10:10S".
+template <class P>
+std::string state(P const& parameter)
+{
+    QString text;
+    QTextStream out(&text);
+    out << parameter.staticValue() << " |";
+    for (unsigned int i = 0; i < parameter.keyframeCount(); ++i) {
+        int const kind = parameter.interpolation(i);
+        out << ' ' << parameter.keyframeTime(i) << ':' << parameter.keyframeValue(i);
+        kind < 4 ? out << "USLB"[kind] : out << kind;
+    }
+    out.flush();
+    return text.toStdString();
 }
 
 /// Sets one key per (time, value) row.
