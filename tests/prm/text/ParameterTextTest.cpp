@@ -1,0 +1,189 @@
+#include "prm/Fixtures.h"
+#include "prm/NumericParameter.h"
+#include "prm/Parameter.h"
+#include "prm/text/CurveTypeNames.h"
+
+#include <QFile>
+#include <memory>
+#include <tuple>
+
+using namespace Prm;
+using Filter = boost::function<QString(QString const&)>;
+
+namespace {
+
+/// The parameter a data file's "@ type name keyed interpolation extrapolation" line asks for.
+std::unique_ptr<ParameterWithoutType> parameterOf(QStringList const& words)
+{
+    Interpolation i{};
+    Extrapolation e{};
+    if (words.size() != 6 || !bStringToInterpolationType(words[4], i) || !bStringToExtrapolationType(words[5], e))
+        return nullptr;
+    bool const b = words[3] == "1";
+    QByteArray const name = words[2].toUtf8();
+    QString const& type = words[1];
+    if (type == "double")
+        return std::make_unique<Parameter<double>>(b, name.data(), 0.0, i, e);
+    if (type == "int")
+        return std::make_unique<Parameter<int>>(b, name.data(), 0, i, e);
+    if (type == "text")
+        return std::make_unique<Parameter<QString>>(b, name.data(), QString(), i, e);
+    if (type == "number")
+        return std::make_unique<NumericParameter<double>>(b, name.data(), 0.0, 0.0, 1.0, i, e);
+    if (type == "bool")
+        return std::make_unique<NumericParameter<bool>>(b, name.data(), false, false, true, i, e);
+    if (type == "byte")
+        return std::make_unique<NumericParameter<unsigned char>>(b, name.data(), 0, 0, 255, i, e);
+    return nullptr;
+}
+
+std::string written(ParameterWithoutType const& parameter)
+{
+    return qstrStreamed(parameter, "").toStdString();
+}
+
+} // namespace
+
+TEST(ParameterText, DataFileCasesReadAndWrite)
+{
+    QFile file(TQ_TEST_DIR "/data/ParameterText.txt");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
+    QTextStream in(&file);
+    in.setCodec("UTF-8");
+    LogCapture log;
+    std::unique_ptr<ParameterWithoutType> p;
+    std::string expected, expectedLog, where;
+    auto const vCheck = [&](bool bCaseEnds) {
+        if (!expected.empty()) {
+            EXPECT_EQ(written(*p), expected) << where;
+        }
+        expected.clear();
+        if (!bCaseEnds)
+            return;
+        std::string logged;
+        for (auto const& line : log.lines)
+            logged += line + '\n';
+        EXPECT_EQ(logged, expectedLog) << "the log of the case ending before " << where;
+        log.lines.clear();
+        expectedLog.clear();
+    };
+    for (int number = 1; !in.atEnd(); ++number) {
+        QString const line = in.readLine();
+        QChar const mark = line.isEmpty() ? QChar('#') : line[0];
+        std::string const rest = line.mid(2).toStdString();
+        if (mark != '=' && p)
+            vCheck(mark == '@');
+        where = "data line " + std::to_string(number) + ": " + line.toStdString();
+        if (mark == '@')
+            ASSERT_TRUE(p = parameterOf(line.split(' '))) << where;
+        else if (mark == '+' || mark == '-')
+            EXPECT_EQ(p->bStreamInLine(line.mid(2)), mark == '+') << where;
+        else if (mark == '=')
+            expected += rest + '\n';
+        else if (mark == '~')
+            EXPECT_NE(written(*p).find(rest + '\n'), std::string::npos) << where << "\nin:\n" << written(*p);
+        else if (mark == '?')
+            EXPECT_EQ(p->valueString(line.section(' ', 1, 1).toFloat(), nullptr), line.section(' ', 2)) << where;
+        else if (mark == '!')
+            expectedLog += rest + '\n';
+    }
+    ASSERT_TRUE(p);
+    vCheck(true);
+}
+
+TEST(ParameterText, ReadIsQuietUnblocksSignalsAndKeepsTheMasterName)
+{
+    NumericParameter<double> p(true, "Gain", 0.0, 0.0, 1.0, InterpolationLinear, ExtrapolationHold);
+    ChangeRecorder recorder(p);
+    p.blockSignals(true);
+    EXPECT_TRUE(p.bStreamIn("keyframes.append( Key( 1, 0.5, Linear ) )"));
+    EXPECT_FALSE(p.signalsBlocked()) << "unblocked even though the caller had blocked them";
+    LogCapture log;
+    EXPECT_FALSE(p.bStreamIn("keyframes.append( Key( 1 ) )"));
+    EXPECT_FALSE(p.signalsBlocked());
+    EXPECT_TRUE(recorder.events.empty());
+    EXPECT_TRUE(p.bStreamIn("MasterParameterId=Core.Gain=x"));
+    EXPECT_EQ(p.qstrMasterParameterId(), "Core.Gain") << "ends at a second =";
+}
+
+TEST(ParameterText, FilterSeesValueTextsOnlyWithTheirQuotes)
+{
+    Parameter<QString> p(true, "Label", QString(), InterpolationStep, ExtrapolationHold);
+    QStringList seen;
+    Filter const upper = [&seen](QString const& text) {
+        seen << text;
+        return text.toUpper();
+    };
+    for (char const* line : {"keyframes.append( Key( 2, \"low\", Step ) )", "value=\"v\"", "MasterParameterId=a",
+                             "hidden=0"})
+        EXPECT_TRUE(p.streamInValue(line, upper)) << line;
+    EXPECT_EQ(seen, (QStringList{"\"low\"", "\"v\""}));
+    EXPECT_EQ(std::make_tuple(p.staticValue(), p.keyframeValue(0), p.qstrMasterParameterId()),
+              std::make_tuple(QString("V"), QString("LOW"), QString("a")));
+}
+
+TEST(ParameterText, PlainParameterStaysStreamingAfterAFailedKeyLine)
+{
+    LogCapture log;
+    Parameter<double> p(true, "Gain", 0.0, InterpolationBezier, ExtrapolationHold);
+    IType handles;
+    handles.eType = InterpolationBezier;
+    handles.dOutTime = 5.0;
+    p.vSetValue(1.0, 0.0f);
+    p.vSetInterpolationData(handles, 0);
+    EXPECT_FALSE(p.streamInValue("keyframes.append( Key( 1 ) )", Filter()));
+    p.vSetValue(2.0, 10.0f);
+    EXPECT_EQ(p.interpolationData(0u).dOutTime, 5.0) << "still streaming: the old last segment is left alone";
+    EXPECT_TRUE(p.streamInValue("hidden=0", Filter()));
+    p.vSetInterpolationData(handles, 1);
+    p.vSetValue(3.0, 20.0f);
+    EXPECT_EQ(p.interpolationData(1u).dOutTime, 0.0) << "a line read to its end cleared the flag";
+}
+
+TEST(ParameterText, WriterPrefixesPrecisionMastersAndMissingKeys)
+{
+    Parameter<double> pi(false, "Pi", 3.14159265358979, InterpolationStep, ExtrapolationHold);
+    QString text;
+    QTextStream out(&text);
+    out.setRealNumberPrecision(10);
+    pi.bStreamOut(out, "", true);
+    EXPECT_TRUE(text.startsWith("Pi.value=3.141592654\n")) << "the caller's stream keeps its own precision";
+    // bQualify false: the caller has put the name in the prefix already; an empty name adds no dot.
+    EXPECT_TRUE(qstrStreamed(pi, "Set.Pi.", false).startsWith("Set.Pi.value=3.14159\n"));
+    Parameter<int> unnamed(false, "", 3, InterpolationStep, ExtrapolationHold);
+    EXPECT_TRUE(qstrStreamed(unnamed, "Set.").startsWith("Set.value=3\n"));
+
+    auto* master = new Parameter<int>(true, "Master", 0, InterpolationStep, ExtrapolationHold);
+    ASSERT_TRUE(master->bAddConstrainedParameter(&unnamed));
+    EXPECT_TRUE(qstrStreamed(unnamed, "").endsWith("\nMasterParameterId=Master\n"));
+    delete master;
+    EXPECT_TRUE(qstrStreamed(unnamed, "").endsWith("\nafter=Hold\n")) << "the name stays, the line does not";
+
+    unnamed.vSetValue(1, 1.0f);
+    EXPECT_EQ(unnamed.keyframeSuffixString(1.0001f), "");
+    EXPECT_EQ(unnamed.indexSuffixString(1), "");
+}
+
+TEST(ParameterText, ValueStringsAndVariants)
+{
+    NumericParameter<int> clamped(true, "Count", 0, 0, 10, InterpolationLinear, ExtrapolationHold);
+    clamped.moveAndChangeKeyframe(0, 0.0f, 0.0f); // no key: no effect
+    clamped.vSetValue(5, 0.0f);
+    clamped.moveAndChangeKeyframe(50, 0.0f, 0.0f); // stored unclamped
+    EXPECT_EQ(clamped.valueString(0.0f, nullptr), "10") << "the value after clamping";
+    EXPECT_EQ(clamped.keyframeSuffixString(0.0f), "keyframes.append( Key( 0, 50, Linear ) )");
+    clamped.setValueFromString("7", 1.0f);
+    clamped.setValueFromString("seven", 2.0f); // bad text changes nothing
+    EXPECT_EQ(state(clamped), "0 | 0:50L 1:7L");
+
+    Parameter<QString> text(true, "Text", QString(), InterpolationStep, ExtrapolationHold);
+    text.setValueFromString("\"two words\"", 0.0f);
+    EXPECT_EQ(text.value(0.0f, nullptr), "\"two") << "one word, quotes kept";
+
+    QVariant const exported = clamped.exportValueAt(1.0f);
+    EXPECT_EQ(exported.userType(), int(QMetaType::Int));
+    EXPECT_EQ(exported.toInt(), 7);
+    clamped.importValueAt(3.0f, QVariant(4.9)); // Qt's conversion rounds
+    clamped.importValueAt(4.0f, QVariant(QStringList{"x"})); // one that cannot convert changes nothing
+    EXPECT_EQ(state(clamped), "0 | 0:50L 1:7L 3:5L");
+}
