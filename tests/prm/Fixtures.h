@@ -91,7 +91,7 @@ void expectReads(P const& parameter, Keys<P> const& rows)
 
 /// What `bStreamOut` writes, expecting it to succeed.
 template <class P>
-QString qstrStreamed(P const& parameter, QString const& prefix, bool bQualify = true)
+QString qstrStreamed(P&& parameter, QString const& prefix, bool bQualify = true)
 {
     QString text;
     QTextStream out(&text);
