@@ -45,16 +45,6 @@ using ValueOf = std::decay_t<decltype(std::declval<P const&>().staticValue())>;
 template <class P>
 using Keys = std::vector<std::pair<float, ValueOf<P>>>;
 
-/// Every key of `parameter` as (time, value), in order.
-template <class P>
-Keys<P> keysOf(P const& parameter)
-{
-    Keys<P> keys;
-    for (unsigned int i = 0; i < parameter.keyframeCount(); ++i)
-        keys.emplace_back(parameter.keyframeTime(i), parameter.keyframeValue(i));
-    return keys;
-}
-
 /// The parameter's state on one line: the static value, then each key as time:value followed by its curve
 /// kind's initial (a custom kind by its number), e.g. "0.5 | 0:0L 10:10S".
 template <class P>
