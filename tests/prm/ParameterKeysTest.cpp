@@ -43,20 +43,8 @@ TEST(ParameterKeys, ConstructorsLeaveRulesUnsetAndCopiesKeepTheHiddenFlag)
     EXPECT_EQ(five.extrapolationAfter(), ExtrapolationHold); // not keyframed
     five.hide(true);
     EXPECT_TRUE(Parameter<float>(five).isHidden());
-}
-
-TEST(ParameterKeys, ReadsAtBetweenAndBeyondKeysOfAPlainParameter)
-{
-    Parameter<double> p(true, "P", 7.0, InterpolationLinear, ExtrapolationLinear);
-    p.vSetDefault(99.0);
-    expectReads(p, {{3.0f, 7.0}}); // no keys: the static value, not the default
-    withKeys(p, {{0.0f, 1.0}, {10.0f, 5.0}, {20.0f, 2.0}});
-    // A plain parameter never interpolates or extrapolates, whatever the records and rules say.
-    expectReads(p, {{5.0f, 1.0}, {15.0f, 5.0}, {-5.0f, 1.0}, {50.0f, 2.0}, {10.0f, 5.0}});
-    // A key at a NaN time is appended and later keys follow it out of order; the halving search's own
-    // probes decide the segment: at 25 it passes 20, then the NaN key, and ends on the NaN key.
-    withKeys(p, {{std::nanf(""), 8.0}, {30.0f, 9.0}});
-    expectReads(p, {{25.0f, 8.0}, {15.0f, 5.0}});
+    two.vSetDefault(9);
+    expectReads(two, {{3.0f, 0}}); // keyframed without keys: the static value, not the default
 }
 
 TEST(ParameterKeys, SetValueInsertsInOrderAndSignals)

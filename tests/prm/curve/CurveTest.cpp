@@ -1,4 +1,4 @@
-#include "prm/Fixtures.h"
+#include "prm/TextCases.h"
 #include "prm/curve/CubeRoots.h"
 #include "prm/curve/Interpolate.h"
 #include "prm/NumericParameter.h"
@@ -20,14 +20,6 @@ NumericParameter<T> twoKeys(T v0, T v1, Interpolation kind, Extrapolation rule =
     p.vSetValue(v0, 0.0f);
     p.vSetValue(v1, 10.0f);
     return p;
-}
-
-void vSetHandles(Curve& p, unsigned int index, double outTime, double outValue, double inTime, double inValue)
-{
-    IType record = p.interpolationData(index);
-    std::tie(record.dOutTime, record.dOutValue, record.dInTime, record.dInValue) =
-        std::make_tuple(outTime, outValue, inTime, inValue);
-    p.vSetInterpolationData(record, index);
 }
 
 /// A custom rule that reports the side and supports reading without keys.
@@ -66,58 +58,14 @@ TEST(Curve, CubeRootsFindsTheRealRoots)
     EXPECT_EQ(cuberoots(bad, roots), 0);
 }
 
-TEST(Curve, StepLinearAndBezierBetweenKeys)
+// Reads of step, linear, Bezier and extrapolated curves are cases of the data file.
+TEST(Curve, DataFileCasesAndFreshBezierHandles)
 {
-    expectReads(twoKeys(0.0, 10.0, InterpolationStep), {{9.9f, 0.0}, {10.0f, 10.0}});
-    expectReads(twoKeys(0.0, 10.0, InterpolationLinear), {{2.5f, 2.5}});
-    expectReads(twoKeys(0, 10, InterpolationLinear), {{4.9f, 4}, {9.99f, 9}}); // truncation, not rounding
-
-    // Default handles lie on the chord, so the curve starts straight; flat ones ease in.
+    vRunTextCases("Curve.txt");
+    // Fresh handles lie on the chord, so the curve starts straight; they follow the value type's arithmetic.
     Curve bezier = twoKeys(0.0, 10.0, InterpolationBezier);
     EXPECT_NEAR(bezier.value(1.0f, nullptr), 1.0, 1e-9);
-    IType const chord = bezier.interpolationData(0);
-    vSetHandles(bezier, 0, chord.dOutTime, 0.0, chord.dInTime, 0.0);
-    double const early = bezier.value(1.0f, nullptr);
-    EXPECT_TRUE(early > 0.0 && early < 1.0) << early;
     EXPECT_NEAR(bezier.value(5.0f, nullptr), 5.0, 1e-9);
-    EXPECT_EQ(bezier.value(0.0f, nullptr), 0.0);
-
-    // Handles of exactly a third of the span in time leave no root to find: the zero value, clamped.
-    Curve third(true, "T", 0.0, -1.0, 100.0, InterpolationBezier, ExtrapolationHold);
-    IType const fresh = withKeys(third, {{0.0f, 5.0}, {12.0f, 7.0}}).interpolationData(0);
-    vSetHandles(third, 0, 4.0, fresh.dOutValue, -4.0, fresh.dInValue);
-    EXPECT_EQ(third.value(6.0f, nullptr), 0.0);
-    third.vSetMinimum(2.0);
-    EXPECT_EQ(third.value(6.0f, nullptr), 2.0);
-}
-
-TEST(Curve, ExtrapolationRules)
-{
-    expectReads(twoKeys(2.0, 4.0, InterpolationLinear), {{-5.0f, 2.0}, {50.0f, 4.0}});
-    expectReads(twoKeys(2.0, 4.0, InterpolationLinear, ExtrapolationLinear), {{-10.0f, 0.0}, {20.0f, 6.0}});
-    expectReads(twoKeys(2.0, 4.0, InterpolationStep, ExtrapolationLinear), {{20.0f, 4.0}}); // a step has no slope
-    expectReads(curveOf({{1.0f, 3.0}}), {{8.0f, 3.0}}); // one key: linear holds
-    // An unset end segment is sampled a tenth of the way in, which reads the zero value.
-    expectReads(twoKeys(2.0, 4.0, InterpolationUnset, ExtrapolationLinear), {{-1.0f, 4.0}});
-    Curve unset = twoKeys(2.0, 4.0, InterpolationLinear, ExtrapolationUnset);
-    expectReads(unset, {{20.0f, 0.0}});
-    unset.vSetMinimum(1.0);
-    expectReads(unset, {{20.0f, 1.0}});
-
-    // After a Bezier segment the line follows the end key's handle.
-    Curve bezier = twoKeys(0.0, 10.0, InterpolationBezier, ExtrapolationLinear);
-    vSetHandles(bezier, 0, 1.0, 0.5, -1.0, -2.0);
-    EXPECT_DOUBLE_EQ(bezier.value(12.0f, nullptr), 14.0);
-    EXPECT_DOUBLE_EQ(bezier.value(-2.0f, nullptr), -1.0);
-    // After the curve the last segment is sampled from its right end, a tenth back towards key n - 2; the
-    // first custom kind samples as a step there, so the line runs through key n - 2's value at time 29.
-    Curve sampled = twoKeys(0.0, 10.0, InterpolationLinear, ExtrapolationLinear);
-    withKeys(sampled, {{20.0f, 30.0}, {30.0f, 60.0}}).vSetInterpolation(InterpolationCustomFirst, 20.0f);
-    EXPECT_DOUBLE_EQ(sampled.value(31.0f, nullptr), 90.0);
-}
-
-TEST(Curve, FreshBezierHandlesFollowTheValueTypesArithmetic)
-{
     IType const record = twoKeys(10u, 0u, InterpolationBezier).interpolationData(0);
     EXPECT_DOUBLE_EQ(record.dOutTime, 1.0);
     EXPECT_NEAR(record.dOutValue, 4294967286.0 * 0.1, 1e-3);

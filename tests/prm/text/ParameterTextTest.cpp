@@ -1,94 +1,16 @@
-#include "prm/Fixtures.h"
+#include "prm/TextCases.h"
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
-#include "prm/text/CurveTypeNames.h"
 
-#include <QFile>
-#include <memory>
 #include <tuple>
 
 using namespace Prm;
 using Filter = boost::function<QString(QString const&)>;
 
-namespace {
-
-/// The parameter a data file's "@ type name keyed interpolation extrapolation" line asks for.
-std::unique_ptr<ParameterWithoutType> parameterOf(QStringList const& words)
-{
-    Interpolation i{};
-    Extrapolation e{};
-    if (words.size() != 6 || !bStringToInterpolationType(words[4], i) || !bStringToExtrapolationType(words[5], e))
-        return nullptr;
-    bool const b = words[3] == "1";
-    QByteArray const name = words[2].toUtf8();
-    QString const& type = words[1];
-    if (type == "double")
-        return std::make_unique<Parameter<double>>(b, name.data(), 0.0, i, e);
-    if (type == "int")
-        return std::make_unique<Parameter<int>>(b, name.data(), 0, i, e);
-    if (type == "text")
-        return std::make_unique<Parameter<QString>>(b, name.data(), QString(), i, e);
-    if (type == "number")
-        return std::make_unique<NumericParameter<double>>(b, name.data(), 0.0, 0.0, 1.0, i, e);
-    if (type == "bool")
-        return std::make_unique<NumericParameter<bool>>(b, name.data(), false, false, true, i, e);
-    if (type == "byte")
-        return std::make_unique<NumericParameter<unsigned char>>(b, name.data(), 0, 0, 255, i, e);
-    return nullptr;
-}
-
-std::string written(ParameterWithoutType const& parameter)
-{
-    return qstrStreamed(parameter, "").toStdString();
-}
-
-} // namespace
-
+// The cases and their format are in the data file.
 TEST(ParameterText, DataFileCasesReadAndWrite)
 {
-    QFile file(TQ_TEST_DIR "/data/ParameterText.txt");
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
-    QTextStream in(&file);
-    in.setCodec("UTF-8");
-    LogCapture log;
-    std::unique_ptr<ParameterWithoutType> p;
-    std::string expected, expectedLog, where;
-    auto const vCheck = [&](bool bCaseEnds) {
-        if (!expected.empty()) {
-            EXPECT_EQ(written(*p), expected) << where;
-        }
-        expected.clear();
-        if (!bCaseEnds)
-            return;
-        std::string logged;
-        for (auto const& line : log.lines)
-            logged += line + '\n';
-        EXPECT_EQ(logged, expectedLog) << "the log of the case ending before " << where;
-        log.lines.clear();
-        expectedLog.clear();
-    };
-    for (int number = 1; !in.atEnd(); ++number) {
-        QString const line = in.readLine();
-        QChar const mark = line.isEmpty() ? QChar('#') : line[0];
-        std::string const rest = line.mid(2).toStdString();
-        if (mark != '=' && p)
-            vCheck(mark == '@');
-        where = "data line " + std::to_string(number) + ": " + line.toStdString();
-        if (mark == '@')
-            ASSERT_TRUE(p = parameterOf(line.split(' '))) << where;
-        else if (mark == '+' || mark == '-')
-            EXPECT_EQ(p->bStreamInLine(line.mid(2)), mark == '+') << where;
-        else if (mark == '=')
-            expected += rest + '\n';
-        else if (mark == '~')
-            EXPECT_NE(written(*p).find(rest + '\n'), std::string::npos) << where << "\nin:\n" << written(*p);
-        else if (mark == '?')
-            EXPECT_EQ(p->valueString(line.section(' ', 1, 1).toFloat(), nullptr), line.section(' ', 2)) << where;
-        else if (mark == '!')
-            expectedLog += rest + '\n';
-    }
-    ASSERT_TRUE(p);
-    vCheck(true);
+    vRunTextCases("ParameterText.txt");
 }
 
 TEST(ParameterText, ReadIsQuietUnblocksSignalsAndKeepsTheMasterName)
