@@ -29,22 +29,31 @@ public:
 
 } // namespace
 
-TEST(ParameterKeys, ConstructorsLeaveRulesUnsetAndCopiesKeepTheHiddenFlag)
+TEST(ParameterKeys, ConstructorsLeaveRulesUnsetAndAStaticParameterIgnoresKeysAndRules)
 {
     Parameter<int> two(true, "Gain");
     EXPECT_EQ(two.qstrDisplayName(), "Gain");
-    EXPECT_EQ(two.extrapolationBefore(), ExtrapolationUnset);
-    EXPECT_EQ(two.interpolation(0.0f), InterpolationUnset);
+    EXPECT_EQ(std::make_pair(two.extrapolationBefore(), two.interpolation(0.0f)),
+              std::make_pair(ExtrapolationUnset, InterpolationUnset));
+    two.vSetDefault(9);
+    expectReads(two, {{3.0f, 0}}); // keyframed without keys: the static value, not the default
     Parameter<bool> none;
     EXPECT_TRUE(none.isKeyframed() && none.qstrScriptName().isEmpty());
     EXPECT_EQ(none.qstrDisplayName(), "Not Set");
 
-    Parameter<float> five(false, "Blur", 2.5f, InterpolationLinear, ExtrapolationLinear);
-    EXPECT_EQ(five.extrapolationAfter(), ExtrapolationHold); // not keyframed
-    five.hide(true);
-    EXPECT_TRUE(Parameter<float>(five).isHidden());
-    two.vSetDefault(9);
-    expectReads(two, {{3.0f, 0}}); // keyframed without keys: the static value, not the default
+    Parameter<int> flat(false, "F", 3, InterpolationLinear, ExtrapolationLinear);
+    flat.hide(true);
+    EXPECT_TRUE(Parameter<int>(flat).isHidden()); // a copy keeps the hidden flag
+    ChangeRecorder rec(flat);
+    flat.vSetExtrapolationBefore(ExtrapolationLinear);
+    flat.vSetInterpolationData(IType(), 0);
+    EXPECT_TRUE(rec.events.empty());
+    EXPECT_EQ(std::make_tuple(flat.extrapolationBefore(), flat.extrapolationAfter(), flat.interpolation(1.0f),
+                              flat.interpolationData(0).eType, flat.keyframeValue(0), flat.iAddKeyframe(1.0f)),
+              std::make_tuple(ExtrapolationHold, ExtrapolationHold, InterpolationStep, InterpolationStep, 3, -1));
+    EXPECT_EQ(flat.vSetValue(6, 1.0f), -1);
+    EXPECT_EQ(state(flat), "6 |");
+    EXPECT_EQ(rec.events, (Events{{Change::ValueChanged, 0xFFFFFFFFu}}));
 }
 
 TEST(ParameterKeys, SetValueInsertsInOrderAndSignals)
@@ -57,12 +66,6 @@ TEST(ParameterKeys, SetValueInsertsInOrderAndSignals)
     EXPECT_EQ(state(p), "0 | 0:3S 5:8S 5:9S 10:5S");
     EXPECT_EQ(Events(rec.events.begin() + 4, rec.events.begin() + 7),
               (Events{{Change::KeyframeAdded, 1}, {Change::ValueChanged, 1}, {Change::ValueChanged, 1}}));
-
-    Parameter<int> flat(false, "F", 0, InterpolationStep, ExtrapolationHold);
-    ChangeRecorder flatRec(flat);
-    EXPECT_EQ(flat.vSetValue(6, 1.0f), -1);
-    EXPECT_EQ(state(flat), "6 |");
-    EXPECT_EQ(flatRec.events, (Events{{Change::ValueChanged, 0xFFFFFFFFu}}));
 }
 
 TEST(ParameterKeys, SetValueAndAddKeyframeInheritFromOppositeSides)
@@ -80,8 +83,6 @@ TEST(ParameterKeys, SetValueAndAddKeyframeInheritFromOppositeSides)
         EXPECT_EQ(p.iAddKeyframe(row.first), row.second);
     EXPECT_EQ(state(p), "4 | -5:0L 0:0S 5:5B 10:10B 15:15B 20:20S 30:20L");
     EXPECT_EQ(rec.events.size(), 3u);
-    Parameter<int> flat(false, "F");
-    EXPECT_EQ(flat.iAddKeyframe(1.0f), -1);
 
     Probe q; // an added key keeps the curve where it was
     q.iAddKeyframe(5.0f);
@@ -107,33 +108,13 @@ TEST(ParameterKeys, AppendedKeyReinitialisesTheFormerLastRecordExceptWhileStream
     EXPECT_DOUBLE_EQ(std::get<1>(p.handles(1)), 0.8);
 }
 
-TEST(ParameterKeys, GettersOutOfRange)
+TEST(ParameterKeys, GettersOutOfRangeAndSearchesWithTheirTieRules)
 {
-    Probe p;
-    EXPECT_EQ(std::make_tuple(p.keyframeTime(7), p.keyframeValue(7), p.interpolation(7u)),
-              std::make_tuple(0.0f, 30.0, InterpolationStep));
-    EXPECT_EQ(std::make_pair(p.interpolationData(7).eType, p.interpolationData(7).dOutTime),
-              std::make_pair(InterpolationLinear, 0.0));
+    Probe p; // 0:0, 10:10, 20:30
+    EXPECT_EQ(std::make_tuple(p.keyframeTime(7), p.keyframeValue(7), p.interpolation(7u), p.interpolationData(7).eType),
+              std::make_tuple(0.0f, 30.0, InterpolationStep, InterpolationLinear));
+    EXPECT_EQ(p.interpolationData(7).dOutTime, 0.0);
     EXPECT_TRUE(p.bKeyframeAt(10.0f) && !p.bKeyframeAt(10.5f));
-    // interpolation(float): key at t, else the record before the next later key, else the last.
-    p.vSetInterpolation(InterpolationStep, 10.0f);
-    for (auto const& row : {std::make_pair(10.0f, InterpolationStep), {15.0f, InterpolationStep},
-                            {5.0f, InterpolationLinear}, {-5.0f, InterpolationLinear}})
-        EXPECT_EQ(p.interpolation(row.first), row.second) << "at " << row.first;
-
-    Parameter<int> flat(false, "F", 3, InterpolationLinear, ExtrapolationLinear);
-    EXPECT_EQ(std::make_tuple(flat.interpolation(1.0f), flat.interpolationData(0).eType, flat.keyframeValue(0)),
-              std::make_tuple(InterpolationStep, InterpolationStep, 3));
-    ChangeRecorder rec(flat);
-    flat.vSetExtrapolationBefore(ExtrapolationLinear);
-    flat.vSetInterpolationData(IType(), 0);
-    EXPECT_TRUE(rec.events.empty());
-    EXPECT_EQ(flat.extrapolationBefore(), ExtrapolationHold);
-}
-
-TEST(ParameterKeys, SearchesAndTheirTieRules)
-{
-    Probe p; // keys at 0, 10, 20
     struct Row {
         bool (Probe::*search)(float, float&) const;
         float from;
@@ -157,6 +138,11 @@ TEST(ParameterKeys, SearchesAndTheirTieRules)
     Parameter<int> empty(true, "E");
     float t = 0.0f;
     EXPECT_FALSE(empty.bNearestKeyframeTime(0.0f, t) || empty.bPreviousKeyframe(0.0f, t));
+    // interpolation(float): key at t, else the record before the next later key, else the last.
+    p.vSetInterpolation(InterpolationStep, 10.0f);
+    for (auto const& row : {std::make_pair(10.0f, InterpolationStep), {15.0f, InterpolationStep},
+                            {5.0f, InterpolationLinear}, {-5.0f, InterpolationLinear}})
+        EXPECT_EQ(p.interpolation(row.first), row.second) << "at " << row.first;
 }
 
 TEST(ParameterKeys, DeletionAndReset)
