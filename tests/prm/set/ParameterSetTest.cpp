@@ -174,22 +174,6 @@ TEST(ParameterSet, LinesNotTakenAndMastersNotFoundAreReported)
               log.lines.end());
 }
 
-TEST(ParameterSet, NumericFailedKeyLineIsRepaired)
-{
-    RootSet set;
-    LogCapture log;
-    // The numeric parameter's bStreamIn clears the flag: a key appended afterwards reinitialises the
-    // segment before it.
-    EXPECT_TRUE(set.bStreamIn("Gain.keyframes.append( BezierKey( 0, 1, 0, 0, 0, 0 ) )"));
-    EXPECT_FALSE(set.bStreamIn("Gain.keyframes.append( BezierKey( 1, 2, 3 ) )"));
-    EXPECT_EQ(log.lines, (std::vector<std::string>{"Parameter::streamInValue(): failed to parse BezierKey() block: "
-                                                   "'keyframes.append( BezierKey( 1, 2, 3 ) )'"}));
-    EXPECT_EQ(set.gain.keyframeCount(), 2u) << "the key of the failed line stays";
-    set.gain.vSetInterpolation(InterpolationBezier, 1.0f);
-    set.gain.vSetValue(5.0, 10.0f);
-    EXPECT_NE(set.gain.interpolationData(1).dOutTime, 0.0) << "not streaming any more";
-}
-
 TEST(ParameterSet, NameIndexFollowsRenamesAndAdditionsAfterUnknownLines)
 {
     RootSet set;

@@ -44,22 +44,29 @@ TEST(ParameterText, FilterSeesValueTextsOnlyWithTheirQuotes)
               std::make_tuple(QString("V"), QString("LOW"), QString("a")));
 }
 
-TEST(ParameterText, PlainParameterStaysStreamingAfterAFailedKeyLine)
+TEST(ParameterText, FailedKeyLineLeavesAPlainParameterStreamingAndANumericOneRepaired)
 {
     LogCapture log;
-    Parameter<double> p(true, "Gain", 0.0, InterpolationBezier, ExtrapolationHold);
     IType handles;
     handles.eType = InterpolationBezier;
     handles.dOutTime = 5.0;
-    p.vSetValue(1.0, 0.0f);
-    p.vSetInterpolationData(handles, 0);
-    EXPECT_FALSE(p.streamInValue("keyframes.append( Key( 1 ) )", Filter()));
-    p.vSetValue(2.0, 10.0f);
-    EXPECT_EQ(p.interpolationData(0u).dOutTime, 5.0) << "still streaming: the old last segment is left alone";
-    EXPECT_TRUE(p.streamInValue("hidden=0", Filter()));
-    p.vSetInterpolationData(handles, 1);
-    p.vSetValue(3.0, 20.0f);
-    EXPECT_EQ(p.interpolationData(1u).dOutTime, 0.0) << "a line read to its end cleared the flag";
+    Parameter<double> plain(true, "Gain", 0.0, InterpolationBezier, ExtrapolationHold);
+    Curve numeric(true, "Gain", 0.0, -10.0, 10.0, InterpolationBezier, ExtrapolationHold);
+    plain.vSetValue(1.0, 0.0f);
+    numeric.vSetValue(1.0, 0.0f);
+    plain.vSetInterpolationData(handles, 0);
+    numeric.vSetInterpolationData(handles, 0);
+    EXPECT_FALSE(plain.bStreamInLine("keyframes.append( Key( 1 ) )"));
+    EXPECT_FALSE(numeric.bStreamInLine("keyframes.append( Key( 1 ) )"));
+    plain.vSetValue(2.0, 10.0f);
+    numeric.vSetValue(2.0, 10.0f);
+    // Still streaming, the plain one leaves the old last segment alone; the numeric one's bStreamIn cleared it.
+    EXPECT_EQ(std::make_pair(plain.interpolationData(0).dOutTime, numeric.interpolationData(0).dOutTime),
+              std::make_pair(5.0, 1.0));
+    EXPECT_TRUE(plain.bStreamInLine("hidden=0"));
+    plain.vSetInterpolationData(handles, 1);
+    plain.vSetValue(3.0, 20.0f);
+    EXPECT_EQ(plain.interpolationData(1u).dOutTime, 0.0) << "a line read to its end cleared the flag";
 }
 
 TEST(ParameterText, WriterPrefixesPrecisionMastersAndMissingKeys)
