@@ -15,6 +15,65 @@ Curve curve()
     return curveOf({{0.0f, 0.0}, {10.0f, 10.0}, {20.0f, 0.0}});
 }
 
+/// Edits of a keyed curve p and a second one q, keyed without keys, checked by their states joined by " / ".
+struct EditRow {
+    char const* what;
+    void (*make)(Curve& p, Curve& q, Bsc::CompositeCommand& c);
+    void (*meddle)(Curve& p, Curve& q); // runs before step `meddleStep`: a change the edits do not make
+    std::size_t meddleStep;
+    char const* actions;
+    std::vector<std::string> states;
+};
+
+constexpr char const* start = "0.5 | 0:0L 10:10L 20:0L / 0.5 |";
+
+EditRow const editRows[] = {
+    {"value edits: a new key, an existing one, the first key", [](Curve& p, Curve& q, Bsc::CompositeCommand& c) {
+         p.vSetValueCommand(50.0, 5.0f, c);
+         q.vSetValueCommand(0.75, 3.0f, p.vSetValueCommand(7.0, 10.0f, c));
+     }, nullptr, 0, "-dudu", {start, "0.5 | 0:0L 5:50L 10:7L 20:0L / 0.5 | 3:0.75L", start,
+                              "0.5 | 0:0L 5:50L 10:7L 20:0L / 0.5 | 3:0.75L", start}},
+    {"value edits record when run, the first run only", [](Curve& p, Curve&, Bsc::CompositeCommand& c) {
+         p.vSetValueCommand(2.0, 10.0f, c);
+         p.vSetValueCommand(3.0, 10.0f, c);
+         p.vSetValue(9.0, 10.0f);
+     }, [](Curve& p, Curve&) { p.vSetValue(5.0, 10.0f); }, 3, "-dudu",
+     {"0.5 | 0:0L 10:9L 20:0L / 0.5 |", "0.5 | 0:0L 10:3L 20:0L / 0.5 |", "0.5 | 0:0L 10:9L 20:0L / 0.5 |",
+      "0.5 | 0:0L 10:3L 20:0L / 0.5 |", "0.5 | 0:0L 10:9L 20:0L / 0.5 |"}},
+    {"an added key takes the curve value; one at a key is skipped, a follower's is none, yet its undo deletes",
+     [](Curve& p, Curve& q, Bsc::CompositeCommand& c) {
+         p.bAddConstrainedParameter(&q);
+         p.vAddKeyframeCommand(5.0f, c);
+         p.vAddKeyframeCommand(10.0f, c);
+         q.vAddKeyframeCommand(5.0f, c);
+     }, [](Curve&, Curve& q) { q.vSetValue(3.0, 5.0f); }, 2, "-dud",
+     {start, "0.5 | 0:0L 5:5L 10:10L 20:0L / 0.5 |", "0.5 | 0:0L 10:10L 20:0L / 3 |",
+      "0.5 | 0:0L 5:5L 10:10L 20:0L / 3 |"}},
+    {"a deleted key comes back as iAddKeyframe makes it, without its handles; one not there is skipped for good",
+     [](Curve& p, Curve&, Bsc::CompositeCommand& c) {
+         p.vSetInterpolation(InterpolationBezier, 10.0f);
+         p.createKeyframeDeletion(10.0f, c);
+         p.createKeyframeDeletion(12.0f, c);
+     }, [](Curve& p, Curve&) { p.vSetValue(1.0, 12.0f); }, 2, "-du",
+     {"0.5 | 0:0L 10:10B 20:0L / 0.5 |", "0.5 | 0:0L 20:0L / 0.5 |", "0.5 | 0:0L 10:10L 12:1L 20:0L / 0.5 |"}},
+    {"delete all goes key by key, so the last value stays static; a rerun deletes the keys it recorded",
+     [](Curve& p, Curve& q, Bsc::CompositeCommand& c) { q.vDeleteAllKeyframesCommand(p.vDeleteAllKeyframesCommand(c)); },
+     [](Curve& p, Curve&) { p.vSetValue(4.0, 30.0f); }, 3, "-dud",
+     {start, "0 | / 0.5 |", "0 | 0:0L 10:10L 20:0L / 0.5 |", "0 | 30:4L / 0.5 |"}},
+    {"reset edits change nothing; undo writes the old value, at time 0 where there are no keys",
+     [](Curve& p, Curve& q, Bsc::CompositeCommand& c) { q.vResetCommand(2.0f, p.vResetCommand(10.0f, c)); },
+     nullptr, 0, "-dud", {start, start, start + std::string(" 0:0.5L"), start + std::string(" 0:0.5L")}},
+    {"a reset edit between keys: its undo adds a key that the next run removes",
+     [](Curve& p, Curve&, Bsc::CompositeCommand& c) { p.vResetCommand(5.0f, c); }, nullptr, 0, "-dud",
+     {start, start, "0.5 | 0:0L 5:5L 10:10L 20:0L / 0.5 |", start}},
+    {"a move reads the old value and limits the new one when made, and runs once; its undo every time",
+     [](Curve& p, Curve&, Bsc::CompositeCommand& c) {
+         p.moveKeyframeAsDoubleCommand(500.0, 10.0f, 15.0f, c);
+         p.vSetValue(12.0, 10.0f);
+     }, nullptr, 0, "-dudu", {"0.5 | 0:0L 10:12L 20:0L / 0.5 |", "0.5 | 0:0L 15:100L 20:0L / 0.5 |", start, start,
+                              start}},
+};
+
 /// Runs one action per character of `actions` ('d' doIt, 'u' undoIt, '-' none), expecting after each the
 /// states of `parameters` joined by " / ".
 template <class... P>
@@ -32,37 +91,35 @@ void vRun(Bsc::CompositeCommand& composite, char const* actions, std::vector<std
 
 } // namespace
 
-TEST(ParameterEdit, ValueEditsApplyWhenRunAndGiveTheOldValuesBack)
+TEST(ParameterEdit, KeyAndValueEditsRunAndUndoAsTheTableSays)
 {
-    Curve p = curveOf({{0.0f, 0.0}, {10.0f, 10.0}});
-    Curve flat(false, "Flat", 0.25, 0.0, 1.0, InterpolationLinear, ExtrapolationHold);
-    Parameter<QString> name(true, "Name", QString("static"), InterpolationStep, ExtrapolationHold);
-    Bsc::CompositeCommand c;
-    EXPECT_EQ(&p.vSetValueCommand(50.0, 5.0f, c), &c);
-    p.vSetValueCommand(7.0, 10.0f, c);
-    flat.vSetValueCommand(0.75, 3.0f, c);
-    name.vSetValueCommand("first", 1.0f, c);
-    name.vSetDefaultValueCommand("new", c);
-    vRun(c, "-dudu",
-         {"0.5 | 0:0L 10:10L / 0.25 | / static |", "0.5 | 0:0L 5:50L 10:7L / 0.75 | / static | 1:firstS",
-          "0.5 | 0:0L 10:10L / 0.25 | / static |", "0.5 | 0:0L 5:50L 10:7L / 0.75 | / static | 1:firstS",
-          "0.5 | 0:0L 10:10L / 0.25 | / static |"},
-         p, flat, name);
-    EXPECT_EQ(name.defaultValue(), "static");
-    c.doIt();
-    EXPECT_EQ(name.defaultValue(), "new");
+    for (EditRow const& row : editRows) {
+        SCOPED_TRACE(row.what);
+        Curve p = curve();
+        Curve q = curveOf({}, "Q");
+        Bsc::CompositeCommand c;
+        row.make(p, q, c);
+        for (std::size_t i = 0; i < row.states.size(); ++i) {
+            if (row.meddle && i == row.meddleStep)
+                row.meddle(p, q);
+            vRun(c, row.actions + i, {row.states[i]}, p, q);
+        }
+    }
 }
 
-TEST(ParameterEdit, ValueEditsRecordWhenRunAndLimitThen)
+TEST(ParameterEdit, StaticValuesAndDefaultsComeBackAndValuesAreLimitedWhenRun)
 {
-    Curve p = curveOf({{4.0f, 1.0}});
-    Bsc::CompositeCommand c;
-    p.vSetValueCommand(2.0, 4.0f, c);
-    p.vSetValueCommand(3.0, 4.0f, c);
-    p.vSetValue(9.0, 4.0f); // after making, before running: this is what the first edit records
-    vRun(c, "-du", {"0.5 | 4:9L", "0.5 | 4:3L", "0.5 | 4:9L"}, p);
-    p.vSetValue(5.0, 4.0f); // a second run applies again from the first record
-    vRun(c, "du", {"0.5 | 4:3L", "0.5 | 4:9L"}, p);
+    Curve flat(false, "Flat", 0.25, 0.0, 1.0, InterpolationLinear, ExtrapolationHold);
+    Parameter<QString> name(true, "Name", QString("static"), InterpolationStep, ExtrapolationHold);
+    Bsc::CompositeCommand set, reset;
+    EXPECT_EQ(&flat.vSetValueCommand(0.75, 3.0f, set), &set);
+    vRun(set, "du", {"0.75 |", "0.25 |"}, flat);
+    name.vSetDefaultValueCommand("new", flat.vResetCommand(2.0f, reset));
+    reset.doIt();
+    EXPECT_EQ(std::make_pair(state(flat), name.defaultValue()), std::make_pair(std::string("0.25 |"), QString("new")));
+    flat.vSetValue(0.5, 0.0f);
+    reset.undoIt();
+    EXPECT_EQ(std::make_pair(state(flat), name.defaultValue()), std::make_pair(std::string("0.25 |"), QString("static")));
 
     NumericParameter<int> count(true, "Count", 0, 0, 5, InterpolationStep, ExtrapolationHold);
     NumericParameter<bool> flag(true, "Flag", false, false, true, InterpolationStep, ExtrapolationHold);
@@ -86,7 +143,6 @@ TEST(ParameterEdit, InterpolationAndExtrapolationEditsUndo)
     // A rule of its own per end, so that an edit of the wrong end shows.
     p.vSetExtrapolationAfterCommand(ExtrapolationCustomFirst, c);
     p.vSetInterpolationCommand(InterpolationStep, 15.0f, c); // no key there
-    EXPECT_EQ(c.size(), 5u);
     vRun(c, "-du", {"0.5 | 0:0L 10:10L 20:0L", "0.5 | 0:0B 10:10S 20:0L", "0.5 | 0:0L 10:10L 20:0L"}, p);
     EXPECT_EQ(std::make_pair(p.extrapolationBefore(), p.extrapolationAfter()),
               std::make_pair(ExtrapolationHold, ExtrapolationHold));
@@ -95,86 +151,6 @@ TEST(ParameterEdit, InterpolationAndExtrapolationEditsUndo)
               std::make_pair(ExtrapolationLinear, ExtrapolationCustomFirst));
     EXPECT_EQ(std::make_pair(p.interpolationData(0).dOutTime, p.interpolationData(0).dOutValue),
               std::make_pair(2.0, 4.0));
-}
-
-TEST(ParameterEdit, AddKeyTakesTheCurveValueSkipsAnExistingKeyAndGivesAFollowerNone)
-{
-    Curve p = curve();
-    Curve slave = curveOf({}, "Slave");
-    ASSERT_TRUE(p.bAddConstrainedParameter(&slave));
-    Bsc::CompositeCommand c;
-    p.vAddKeyframeCommand(5.0f, c);
-    p.vAddKeyframeCommand(10.0f, c); // skipped: its undo leaves the key at 10 alone
-    slave.vAddKeyframeCommand(5.0f, c);
-    vRun(c, "-d", {"0.5 | 0:0L 10:10L 20:0L / 0.5 |", "0.5 | 0:0L 5:5L 10:10L 20:0L / 0.5 |"}, p, slave);
-    slave.vSetValue(3.0, 5.0f); // a key of the follower's own: its undo still deletes it, leaving its value
-    vRun(c, "ud", {"0.5 | 0:0L 10:10L 20:0L / 3 |", "0.5 | 0:0L 5:5L 10:10L 20:0L / 3 |"}, p, slave);
-}
-
-TEST(ParameterEdit, DeletedKeyComesBackWithoutItsHandles)
-{
-    Curve p = curve();
-    IType bezier = p.interpolationData(1);
-    std::tie(bezier.eType, bezier.dOutTime, bezier.dOutValue) = std::make_tuple(InterpolationBezier, 3.0, 7.0);
-    p.vSetInterpolationData(bezier, 1);
-    Bsc::CompositeCommand c;
-    p.createKeyframeDeletion(10.0f, c);
-    p.createKeyframeDeletion(12.0f, c); // no key: skipped for good
-    EXPECT_EQ(c.size(), 2u);
-    vRun(c, "-d", {"0.5 | 0:0L 10:10B 20:0L", "0.5 | 0:0L 20:0L"}, p);
-    p.vSetValue(1.0, 12.0f);
-    // iAddKeyframe's kind: that of the segment it splits; the handles are gone.
-    vRun(c, "u", {"0.5 | 0:0L 10:10L 12:1L 20:0L"}, p);
-    EXPECT_NE(p.interpolationData(1).dOutValue, 7.0);
-}
-
-TEST(ParameterEdit, DeleteAllGoesKeyByKeyAndLosesTheStaticValue)
-{
-    Curve p = curve();
-    Curve empty = curveOf({});
-    ChangeRecorder rec(p);
-    Bsc::CompositeCommand c;
-    p.vDeleteAllKeyframesCommand(c);
-    empty.vDeleteAllKeyframesCommand(c);
-    // The last key went alone, so its value became the static value.
-    vRun(c, "du", {"0 | / 0.5 |", "0 | 0:0L 10:10L 20:0L / 0.5 |"}, p, empty);
-    EXPECT_TRUE(std::none_of(rec.events.begin(), rec.events.end(), [](ChangeRecorder::Event const& event) {
-        return event.first == ParameterChange::AllKeyframesDeleted;
-    }));
-    p.vSetValue(4.0, 30.0f); // the keys recorded at the first run are deleted again; one added since stays
-    vRun(c, "d", {"0 | 30:4L / 0.5 |"}, p, empty);
-}
-
-TEST(ParameterEdit, ResetEditNeverChangesTheValue)
-{
-    Curve withKey = curve();
-    Curve between = curve();
-    Curve flat(false, "Flat", 0.5, -1.0, 1.0, InterpolationLinear, ExtrapolationHold);
-    Curve unkeyed = curveOf({});
-    Bsc::CompositeCommand c;
-    withKey.vResetCommand(10.0f, c);
-    between.vResetCommand(5.0f, c);
-    flat.vResetCommand(2.0f, c);
-    unkeyed.vResetCommand(2.0f, c);
-    std::string const unchanged = "0.5 | 0:0L 10:10L 20:0L / 0.5 | 0:0L 10:10L 20:0L / 0.5 | / 0.5 |";
-    vRun(c, "d", {unchanged}, withKey, between, flat, unkeyed);
-    flat.vSetValue(0.25, 0.0f);
-    // Undo writes the old value: a key between keys, and at time 0 on a keyframed one without keys. The
-    // next run removes the key between keys again.
-    vRun(c, "ud",
-         {"0.5 | 0:0L 10:10L 20:0L / 0.5 | 0:0L 5:5L 10:10L 20:0L / 0.5 | / 0.5 | 0:0.5L", unchanged + " 0:0.5L"},
-         withKey, between, flat, unkeyed);
-}
-
-TEST(ParameterEdit, MoveIsOneShotAndReadsTheOldValueWhenMade)
-{
-    Curve p = curve();
-    Bsc::CompositeCommand c;
-    p.moveKeyframeAsDoubleCommand(500.0, 10.0f, 15.0f, c);
-    p.vSetValue(12.0, 10.0f); // after making: the edit already holds 10, and 500 limited
-    vRun(c, "dudu", {"0.5 | 0:0L 15:100L 20:0L", "0.5 | 0:0L 10:10L 20:0L", "0.5 | 0:0L 10:10L 20:0L",
-                     "0.5 | 0:0L 10:10L 20:0L"},
-         p);
 }
 
 TEST(ParameterEdit, FollowersGetTheirOwnKeysAndStaticValueBackOnUndo)
