@@ -3,7 +3,6 @@
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
 
-#include <algorithm>
 #include <tuple>
 
 using namespace Prm;
