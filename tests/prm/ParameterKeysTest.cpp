@@ -115,22 +115,15 @@ TEST(ParameterKeys, GettersOutOfRangeAndSearchesWithTheirTieRules)
               std::make_tuple(0.0f, 30.0, InterpolationStep, InterpolationLinear));
     EXPECT_EQ(p.interpolationData(7).dOutTime, 0.0);
     EXPECT_TRUE(p.bKeyframeAt(10.0f) && !p.bKeyframeAt(10.5f));
-    struct Row {
-        bool (Probe::*search)(float, float&) const;
-        float from;
-        float found; // -1: none, and the argument is left alone
-    };
-    Row const rows[] = {
-        {&Probe::bNearestKeyframeTime, 5.0f, 10.0f}, // halfway: the later key
-        {&Probe::bNearestKeyframeTime, 4.9f, 0.0f},    {&Probe::bPreviousKeyframe, 0.0f, -1.0f},
-        {&Probe::bPreviousKeyframe, 10.0f, 0.0f},      {&Probe::bPreviousKeyframe, 50.0f, 20.0f},
-        {&Probe::bNextKeyframe, 10.0f, 20.0f},         {&Probe::bNextKeyframe, -1.0f, 0.0f},
-        {&Probe::bNextKeyframe, 20.0f, -1.0f},         {&Probe::bNextKeyframe, 21.0f, -1.0f},
-    };
-    for (Row const& row : rows) {
+    // Each row: a search, the time it starts from, the key time found, or -1: none, the argument left alone.
+    for (auto const& row : {std::make_tuple(&Probe::bNearestKeyframeTime, 5.0f, 10.0f), // halfway: the later key
+                            {&Probe::bNearestKeyframeTime, 4.9f, 0.0f}, {&Probe::bPreviousKeyframe, 0.0f, -1.0f},
+                            {&Probe::bPreviousKeyframe, 10.0f, 0.0f}, {&Probe::bPreviousKeyframe, 50.0f, 20.0f},
+                            {&Probe::bNextKeyframe, 10.0f, 20.0f}, {&Probe::bNextKeyframe, -1.0f, 0.0f},
+                            {&Probe::bNextKeyframe, 20.0f, -1.0f}, {&Probe::bNextKeyframe, 21.0f, -1.0f}}) {
         float t = -1.0f;
-        EXPECT_EQ((p.*row.search)(row.from, t), row.found != -1.0f) << row.from;
-        EXPECT_EQ(t, row.found) << row.from;
+        EXPECT_EQ((p.*std::get<0>(row))(std::get<1>(row), t), std::get<2>(row) != -1.0f) << std::get<1>(row);
+        EXPECT_EQ(t, std::get<2>(row)) << std::get<1>(row);
     }
     unsigned int first = 99, last = 99;
     EXPECT_TRUE(p.bNearestKeyframeIndex(-3.0f, first) && p.bNearestKeyframeIndex(99.0f, last));
