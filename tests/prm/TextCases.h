@@ -40,7 +40,7 @@ inline std::unique_ptr<Prm::ParameterWithoutType> caseParameter(QStringList cons
 /// Runs the cases of the data file `tests/prm/data/<name>`; ParameterText.txt's head describes the format.
 inline void vRunTextCases(char const* name)
 {
-    QFile file(QStringLiteral(TQ_TEST_DIR "/data/") + name);
+    QFile file(QStringLiteral(TQ_TEST_FOLDER "/data/") + name);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text)) << name;
     QStringList const lines = QString::fromUtf8(file.readAll()).split('\n') << "@ end";
     LogCapture log;
