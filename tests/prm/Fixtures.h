@@ -2,6 +2,7 @@
 #include "bsc/Logger.h"
 #include "prm/NumericParameter.h"
 #include "prm/ParameterWithoutType.h"
+#include "prm/text/StreamOperators.h"
 
 #include <gtest/gtest.h>
 
@@ -44,14 +45,21 @@ using ValueOf = std::decay_t<decltype(std::declval<P const&>().staticValue())>;
 template <class P>
 using Keys = std::vector<std::pair<float, ValueOf<P>>>;
 
-/// Every key of `parameter` as (time, value), in order.
+/// The parameter's state on one line: the static value, then each key as time:value followed by its curve
+/// kind's initial (a custom kind by its number), e.g. "0.5 | 0:0L 10:10S".
 template <class P>
-Keys<P> keysOf(P const& parameter)
+std::string state(P const& parameter)
 {
-    Keys<P> keys;
-    for (unsigned int i = 0; i < parameter.keyframeCount(); ++i)
-        keys.emplace_back(parameter.keyframeTime(i), parameter.keyframeValue(i));
-    return keys;
+    QString text;
+    QTextStream out(&text);
+    out << parameter.staticValue() << " |";
+    for (unsigned int i = 0; i < parameter.keyframeCount(); ++i) {
+        int const kind = parameter.interpolation(i);
+        out << ' ' << parameter.keyframeTime(i) << ':' << parameter.keyframeValue(i);
+        kind < 4 ? out << "USLB"[kind] : out << kind;
+    }
+    out.flush();
+    return text.toStdString();
 }
 
 /// Sets one key per (time, value) row.
@@ -73,7 +81,7 @@ void expectReads(P const& parameter, Keys<P> const& rows)
 
 /// What `bStreamOut` writes, expecting it to succeed.
 template <class P>
-QString qstrStreamed(P const& parameter, QString const& prefix, bool bQualify = true)
+QString qstrStreamed(P&& parameter, QString const& prefix, bool bQualify = true)
 {
     QString text;
     QTextStream out(&text);

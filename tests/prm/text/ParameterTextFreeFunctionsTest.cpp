@@ -6,53 +6,34 @@
 #include <gtest/gtest.h>
 
 #include <QTextStream>
+#include <vector>
 
-namespace {
-
-template <class T>
-QString qstrWrite(T const& value)
-{
-    QString text;
-    QTextStream out(&text);
-    out << value;
-    out.flush();
-    return text;
-}
-
-} // namespace
+using namespace Prm;
 
 TEST(ParameterTextStreamOperators, BoolAndUnsignedCharAreDigits)
 {
-    EXPECT_EQ(qstrWrite(true) + qstrWrite(false), "10");
-    EXPECT_EQ(qstrWrite(static_cast<unsigned char>(200)), "200");
+    QString text;
+    QTextStream out(&text);
+    out << true << false << static_cast<unsigned char>(200);
+    out.flush();
+    EXPECT_EQ(text, "10200");
 
-    QString text("1, TRUE false 0 -3 65, 258 maybe");
+    text = "1, TRUE false 0 -3 65, 258 maybe";
     QTextStream in(&text);
-    bool value = false;
-    in >> value;
-    EXPECT_TRUE(value);
-    QChar comma;
-    in >> comma;
-    EXPECT_EQ(comma, QLatin1Char(',')) << "the separator of a key line stays in the stream";
-    for (bool expected : {true, false, false, true}) {
-        value = !expected;
-        in >> value;
-        EXPECT_EQ(value, expected);
-    }
-    unsigned char byte = 0;
-    in >> byte;
-    EXPECT_EQ(byte, 65);
-    in >> comma >> byte;
-    EXPECT_EQ(byte, 2) << "low 8 bits of an out-of-range number";
+    bool values[6] = {false, false, true, true, false, true};
+    unsigned char bytes[2] = {};
+    QChar commas[2];
+    in >> values[0] >> commas[0] >> values[1] >> values[2] >> values[3] >> values[4] >> bytes[0] >> commas[1];
+    in >> bytes[1];
+    EXPECT_EQ(commas[0], QLatin1Char(',')) << "the separator of a key line stays in the stream";
+    EXPECT_EQ(std::vector<int>(bytes, bytes + 2), (std::vector<int>{65, 2})) << "the low 8 bits";
     EXPECT_EQ(in.status(), QTextStream::Ok);
-    value = true;
-    in >> value;
-    EXPECT_FALSE(value);
+    in >> values[5];
+    EXPECT_EQ(std::vector<bool>(values, values + 6), (std::vector<bool>{true, true, false, false, true, false}));
     EXPECT_EQ(in.status(), QTextStream::ReadCorruptData);
-
-    QString empty("   ");
-    QTextStream atEnd(&empty);
-    atEnd >> value;
+    QString blank("   ");
+    QTextStream atEnd(&blank);
+    atEnd >> values[0];
     EXPECT_EQ(atEnd.status(), QTextStream::ReadPastEnd);
 }
 
@@ -76,73 +57,58 @@ TEST(ParameterTextKeyframeDeclaration, SplitsTheInnerCallHonouringQuotes)
         {"keyframes", {}},
     };
     for (auto const& row : rows)
-        EXPECT_EQ(Prm::parseKeyframeDeclaration(row.first), row.second) << row.first;
+        EXPECT_EQ(parseKeyframeDeclaration(row.first), row.second) << row.first;
 }
 
 TEST(ParameterTextCurveNames, NamesRoundTripAndReadersAreLenient)
 {
     for (auto const& row : {std::make_pair(0, "Unset"), {1, "Step"}, {2, "Linear"}, {3, "Bezier"}, {6, "Custom 2"}})
-        EXPECT_EQ(Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(row.first)), row.second);
+        EXPECT_EQ(qstrInterpolationTypeString(Interpolation(row.first)), row.second);
     for (auto const& row : {std::make_pair(0, "Unset"), {1, "Hold"}, {2, "Linear"}, {3, "Custom 0"}})
-        EXPECT_EQ(Prm::qstrExtrapolationTypeString(static_cast<Prm::Extrapolation>(row.first)), row.second);
-
+        EXPECT_EQ(qstrExtrapolationTypeString(Extrapolation(row.first)), row.second);
     for (int i = 0; i < 9; ++i) {
-        Prm::Interpolation interpolation{};
-        ASSERT_TRUE(Prm::bStringToInterpolationType(
-            Prm::qstrInterpolationTypeString(static_cast<Prm::Interpolation>(i)), interpolation));
-        EXPECT_EQ(static_cast<int>(interpolation), i);
-        Prm::Extrapolation extrapolation{};
-        ASSERT_TRUE(Prm::bStringToExtrapolationType(
-            Prm::qstrExtrapolationTypeString(static_cast<Prm::Extrapolation>(i)), extrapolation));
-        EXPECT_EQ(static_cast<int>(extrapolation), i);
+        Interpolation interpolation{};
+        Extrapolation extrapolation{};
+        EXPECT_TRUE(bStringToInterpolationType(qstrInterpolationTypeString(Interpolation(i)), interpolation) &&
+                    bStringToExtrapolationType(qstrExtrapolationTypeString(Extrapolation(i)), extrapolation));
+        EXPECT_EQ(std::make_pair(int(interpolation), int(extrapolation)), std::make_pair(i, i));
     }
 
-    Prm::Interpolation interpolation = static_cast<Prm::Interpolation>(1);
+    Interpolation interpolation = Interpolation(1);
     for (auto const& row : {std::make_pair(" linear ) )", 2), {"CUSTOM 1)", 5}}) {
-        EXPECT_TRUE(Prm::bStringToInterpolationType(row.first, interpolation));
-        EXPECT_EQ(static_cast<int>(interpolation), row.second) << row.first;
+        EXPECT_TRUE(bStringToInterpolationType(row.first, interpolation));
+        EXPECT_EQ(int(interpolation), row.second) << row.first;
     }
-    for (char const* bad : {"Hold", "", "Custom", "Custom -1", "Custom x", "Linearly"}) {
-        EXPECT_FALSE(Prm::bStringToInterpolationType(bad, interpolation)) << bad;
-        EXPECT_EQ(static_cast<int>(interpolation), 5) << "left alone on failure";
-    }
-    Prm::Extrapolation extrapolation = static_cast<Prm::Extrapolation>(2);
-    EXPECT_FALSE(Prm::bStringToExtrapolationType("Step", extrapolation));
-    EXPECT_TRUE(Prm::bStringToExtrapolationType("hOLD", extrapolation));
-    EXPECT_EQ(static_cast<int>(extrapolation), 1);
+    for (char const* bad : {"Hold", "", "Custom", "Custom -1", "Custom x", "Linearly"})
+        EXPECT_FALSE(bStringToInterpolationType(bad, interpolation)) << bad;
+    EXPECT_EQ(int(interpolation), 5) << "left alone on failure";
+    Extrapolation extrapolation = Extrapolation(2);
+    EXPECT_TRUE(!bStringToExtrapolationType("Step", extrapolation) && bStringToExtrapolationType("hOLD", extrapolation));
+    EXPECT_EQ(int(extrapolation), 1);
 }
 
-TEST(ParameterTextValueText, QuotingAndWordReading)
+TEST(ParameterTextValueText, QuotingWordsAndVariants)
 {
-    using Text = Prm::ValueText<QString>;
-    EXPECT_EQ(Text::qstrWritten("say \"hi\""), "\"say \"hi\"\"");
-    EXPECT_EQ(Text::qstrDisplay("a b"), "a b");
+    EXPECT_EQ(ValueText<QString>::qstrWritten("say \"hi\""), "\"say \"hi\"\"");
+    EXPECT_EQ(ValueText<QString>::qstrDisplay("a b"), "a b");
     // A quote is taken off only where there is one at both ends.
     for (auto const& row : {std::make_pair("\"a=b\"", "a=b"), {"\"a", "\"a"}, {"\"", ""}}) {
         QString text(row.first);
-        EXPECT_EQ(Text::tRead(text), row.second) << row.first;
+        EXPECT_EQ(ValueText<QString>::tRead(text), row.second) << row.first;
     }
-
     double d = 0;
-    EXPECT_FALSE(Prm::ValueText<double>::bReadWord("abc", d));
-    EXPECT_TRUE(Prm::ValueText<double>::bReadWord("2.5", d));
+    EXPECT_TRUE(!ValueText<double>::bReadWord("abc", d) && ValueText<double>::bReadWord("2.5", d));
     EXPECT_EQ(d, 2.5);
-}
 
-TEST(ParameterTextValueText, VariantTypes)
-{
-    EXPECT_EQ(Prm::ValueText<double>::variant(1.5).userType(), int(QMetaType::Double));
-    EXPECT_EQ(Prm::ValueText<float>::variant(1.5f).userType(), int(QMetaType::Float));
-    EXPECT_EQ(Prm::ValueText<unsigned char>::variant(7).userType(), int(QMetaType::UChar));
-    EXPECT_EQ(Prm::ValueText<bool>::variant(true).userType(), int(QMetaType::Bool));
-    EXPECT_EQ(Prm::ValueText<unsigned int>::variant(7u).userType(), int(QMetaType::UInt));
-
+    EXPECT_EQ(std::vector<int>({ValueText<double>::variant(1.5).userType(), ValueText<float>::variant(1.5f).userType(),
+                                ValueText<unsigned char>::variant(7).userType(),
+                                ValueText<bool>::variant(true).userType(), ValueText<unsigned int>::variant(7u).userType()}),
+              std::vector<int>({QMetaType::Double, QMetaType::Float, QMetaType::UChar, QMetaType::Bool, QMetaType::UInt}));
     int value = 3;
-    EXPECT_TRUE(Prm::ValueText<int>::bFromVariant(QVariant(QString("12")), value));
+    EXPECT_TRUE(ValueText<int>::bFromVariant(QVariant(QString("12")), value));
     EXPECT_EQ(value, 12);
-    EXPECT_TRUE(Prm::ValueText<int>::bFromVariant(QVariant(QString("x")), value));
+    EXPECT_TRUE(ValueText<int>::bFromVariant(QVariant(QString("x")), value));
     EXPECT_EQ(value, 0) << "a failed conversion gives zero";
-    value = 3;
-    EXPECT_FALSE(Prm::ValueText<int>::bFromVariant(QVariant(QStringList{"a"}), value));
+    EXPECT_FALSE(ValueText<int>::bFromVariant(QVariant(QStringList{"a"}), value = 3));
     EXPECT_EQ(value, 3);
 }
