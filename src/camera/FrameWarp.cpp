@@ -40,7 +40,7 @@ bool bUsesWeightGrid(Gan_CameraType type)
 }
 
 // Switches a camera on unless it is already on and linear, and gives a camera on the weight grid the
-// warp's own buffer. `given` is the caller's camera as it stood on entry.
+// warp's own buffer. `given` is the caller's camera, which may be `stored` itself.
 void vSettleCamera(bool& bUse, Gan_Camera& stored, Gan_Camera const& given, Gan_CubicBSplineWeights*& owned)
 {
     if (bUse && given.type == GAN_LINEAR_CAMERA)
@@ -149,29 +149,27 @@ void FrameWarp::vSetAttributes(unsigned int uiClipIDIn, int iLayerIDIn, unsigned
                                bool bUseProjectionCameraIn, Gan_Camera const& tProjectionCameraIn,
                                Gan_CubicBSplineWeights* ptProjectionWeightsIn)
 {
-    // The arguments may be this warp's own fields (a populated warp set again): work from copies.
-    Gan_Camera const givenBackprojection = tBackprojectionCameraIn;
-    Gan_Camera const givenProjection = tProjectionCameraIn;
-    Gan_Matrix33 const givenHomography = tHomographyIn;
-
+    // The arguments may be this warp's own fields (a populated warp set again). They are read where each
+    // step stands, so a camera argument that is the stored camera already points at the warp's buffer
+    // when the grid would be copied, and nothing is copied from the memory it pointed at before.
     uiClipID = uiClipIDIn;
     iLayerID = iLayerIDIn;
     uiAttribute1 = uiAttribute1In;
     uiAttribute2 = uiAttribute2In;
     bUseBackprojectionCamera = bUseBackprojectionCameraIn;
-    tBackprojectionCamera = givenBackprojection;
+    tBackprojectionCamera = tBackprojectionCameraIn;
     ptBackprojectionWeights = ptBackprojectionWeightsIn;
-    tHomography = givenHomography;
-    tHomographyAsGiven = givenHomography;
+    tHomography = tHomographyIn;
+    tHomographyAsGiven = tHomographyIn;
     if (!gan_mat33_invert(&tHomography, &tInverseHomography, nullptr)) {
         tHomography = gan_mat33_ident_s();
         tInverseHomography = tHomography;
     }
     bUseProjectionCamera = bUseProjectionCameraIn;
-    tProjectionCamera = givenProjection;
+    tProjectionCamera = tProjectionCameraIn;
     ptProjectionWeights = ptProjectionWeightsIn;
-    vSettleCamera(bUseBackprojectionCamera, tBackprojectionCamera, givenBackprojection, ptBackprojectionWeights);
-    vSettleCamera(bUseProjectionCamera, tProjectionCamera, givenProjection, ptProjectionWeights);
+    vSettleCamera(bUseBackprojectionCamera, tBackprojectionCamera, tBackprojectionCameraIn, ptBackprojectionWeights);
+    vSettleCamera(bUseProjectionCamera, tProjectionCamera, tProjectionCameraIn, ptProjectionWeights);
 }
 
 void FrameWarp::vWarpPoint(Gan_Vector3& p) const

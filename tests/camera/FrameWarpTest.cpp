@@ -151,6 +151,15 @@ TEST(FrameWarp, WeightGridBuffersAreOwnedCopiedDeeplyAndNeverCopiedOntoThemselve
     vSet(unused, stub(true, true), translation, outside, both, both);
     EXPECT_TRUE(unused.tBackprojectionCamera.weights == nullptr && unused.ptProjectionWeights == both);
 
+    // Set again from its own fields after the model changed to the grid, as a populated warp is: the camera
+    // already points at the fresh buffer when the grid would be copied, so nothing is copied into it.
+    TQ::FrameWarp again;
+    vSet(again, outside, translation, stub(true, true));
+    again.tBackprojectionCamera.type = GAN_CUBIC_BSPLINE_CAMERA;
+    vSet(again, again.tBackprojectionCamera, translation, stub(true, true));
+    EXPECT_TRUE(again.tBackprojectionCamera.weights == again.ptBackprojectionWeights
+                && !bSameGrid(again.ptBackprojectionWeights, callerGrid.get()));
+
     // Copies are deep: each buffer is copied and a camera follows its own copy; memory outside the warp stays
     // shared, and one buffer behind both sides stays one buffer.
     TQ::FrameWarp assigned;
