@@ -3,6 +3,7 @@
 #include "prm/Parameter.h"
 
 #include <cmath>
+#include <cstring>
 #include <tuple>
 
 using namespace Prm;
@@ -50,6 +51,11 @@ TEST(ParameterKeys, ConstructorsLeaveRulesUnsetAndCopiesKeepTheHiddenFlag)
     Parameter<float> copy(five);
     EXPECT_TRUE(copy.isHidden());
     EXPECT_EQ(copy.staticValue(), 2.5f);
+
+    // The untyped view's operations sit next to each other in the virtual table (Itanium: 1 + offset).
+    auto const slot = [](auto pmf) { std::ptrdiff_t p; std::memcpy(&p, &pmf, sizeof p); return p; };
+    EXPECT_EQ(slot(&ParameterWithoutType::vSetExtrapolationBefore) - slot(&ParameterWithoutType::streamInValue),
+              std::ptrdiff_t(sizeof(void*)));
 }
 
 TEST(ParameterKeys, ReadsAtBetweenAndBeyondKeysOfAPlainParameter)
