@@ -68,10 +68,6 @@ public:
     virtual void setValueFromString(QString const& text, float time) = 0;
     virtual bool bStreamOut(QTextStream& out, QString const& prefix, bool bQualify) const = 0;
     virtual bool streamInValue(QString const& line, boost::function<QString(QString const&)> textFilter) = 0;
-    /// Reads one line relative to this parameter, as its set hands it on; true when taken. Here the line
-    /// goes to `streamInValue` without a text filter; a numeric parameter reads it through its
-    /// `bStreamIn`, which also repairs what a failed key line leaves behind.
-    virtual bool bStreamInLine(QString const& line);
     virtual void vSetExtrapolationBefore(Extrapolation extrapolation) = 0;
     virtual void vSetExtrapolationAfter(Extrapolation extrapolation) = 0;
     virtual void vSetInterpolation(Interpolation interpolation, float time) = 0;
@@ -118,6 +114,11 @@ public:
     /// Pushes one edit that ends `follower`'s constraint to this parameter (and restores it on undo).
     virtual bool bRemoveConstrainedParameterCommand(ParameterWithoutType* follower, Bsc::CompositeCommand& composite);
     virtual void vCopyKeyframeDataFrom(ParameterWithoutType const* source) = 0;
+    /// Reads one line relative to this parameter, as its set hands it on; true when taken. Here the line
+    /// goes to `streamInValue` without a text filter; a numeric parameter reads it through its
+    /// `bStreamIn`, which also repairs what a failed key line leaves behind. Declared last, so that the
+    /// operations above keep their places in the table of virtual functions that callers build against.
+    virtual bool bStreamInLine(QString const& line);
 
 signals:
     /// Delivered synchronously after the state has changed; silent while signals are blocked.

@@ -14,12 +14,13 @@
 #include <vector>
 
 /// Collects every `changed` signal of one parameter as (kind, index) pairs; a list change is kept with its
-/// indices copied, since the list dies with the signal.
-class ChangeRecorder {
+/// indices copied, since the list dies with the signal. The connection ends with the recorder, so a parameter
+/// may outlive it.
+class ChangeRecorder : public QObject {
 public:
     explicit ChangeRecorder(Prm::ParameterWithoutType& parameter)
     {
-        QObject::connect(&parameter, &Prm::ParameterWithoutType::changed, [this](Prm::ParameterChange& change) {
+        connect(&parameter, &Prm::ParameterWithoutType::changed, this, [this](Prm::ParameterChange& change) {
             events.emplace_back(change.kind(), change.index());
             if (change.indices())
                 lists.push_back(*change.indices());

@@ -3,6 +3,7 @@
 #include "prm/Parameter.h"
 
 #include <cmath>
+#include <cstring>
 #include <tuple>
 
 using namespace Prm;
@@ -54,6 +55,11 @@ TEST(ParameterKeys, ConstructorsLeaveRulesUnsetAndAStaticParameterIgnoresKeysAnd
     EXPECT_EQ(flat.vSetValue(6, 1.0f), -1);
     EXPECT_EQ(state(flat), "6 |");
     EXPECT_EQ(rec.events, (Events{{Change::ValueChanged, 0xFFFFFFFFu}}));
+
+    // The untyped view's operations sit next to each other in the virtual table (Itanium: 1 + offset).
+    auto const slot = [](auto pmf) { std::ptrdiff_t p; std::memcpy(&p, &pmf, sizeof p); return p; };
+    EXPECT_EQ(slot(&ParameterWithoutType::vSetExtrapolationBefore) - slot(&ParameterWithoutType::streamInValue),
+              std::ptrdiff_t(sizeof(void*)));
 }
 
 TEST(ParameterKeys, SetValueInsertsInOrderAndSignals)
