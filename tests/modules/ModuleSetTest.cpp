@@ -77,7 +77,7 @@ TYPED_TEST(ModuleSet, CopyTakesEverythingAndAssignmentAllButWhatTheTableKeeps)
 {
     std::unique_ptr<TypeParam> source = this->mutated(1, &this->clips);
     for (Prm::ParameterWithoutType* parameter : source->parameterList()) {
-        bVisit(*parameter, [](auto& typed, QString const&) { // a wider range, which no stored value notices
+        vVisit(*parameter, [](auto& typed) { // a wider range, which no stored value notices
             using T = std::decay_t<decltype(typed.staticValue())>;
             if constexpr (std::is_arithmetic<T>::value)
                 if (auto* numeric = dynamic_cast<Prm::NumericParameter<T>*>(&typed))
