@@ -8,6 +8,7 @@
 #include "prm/ParameterTable.h"
 
 #include <QDir>
+#include <QFile>
 #include <QMap>
 #include <QRegExp>
 #include <algorithm>
