@@ -193,10 +193,8 @@ T tPick(Prm::Parameter<T> const& parameter, int step)
         auto const* numeric = numericOf(parameter);
         double const low = numeric ? double(numeric->minimum()) : double(std::numeric_limits<T>::lowest());
         double const high = numeric ? double(numeric->maximum()) : double(std::numeric_limits<T>::max());
-        double value = std::floor(double(initial)) + step;
-        if (value > high)
-            value = std::floor(double(initial)) - step;
-        return static_cast<T>(std::min(std::max(value, low), high));
+        double const up = std::floor(double(initial)) + step;
+        return static_cast<T>(std::clamp(up > high ? up - 2 * step : up, low, high));
     }
 }
 
