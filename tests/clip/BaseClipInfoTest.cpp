@@ -2,8 +2,6 @@
 #include "clip/Fixtures.h"
 #include "clip/FrameOffsetParameter.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <memory>
 

@@ -1,8 +1,6 @@
 #include "clip/ClipInfo.h"
 #include "clip/Fixtures.h"
 
-#include <gtest/gtest.h>
-
 #include <cstring>
 #include <memory>
 #include <utility>

@@ -1,13 +1,10 @@
 #include "clip/ClipInfo.h"
 #include "clip/Fixtures.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <cstring>
 #include <functional>
 #include <tuple>
-#include <vector>
 
 using TQTest::tablesOf;
 
@@ -70,13 +67,11 @@ TEST(ColourspaceParameters, CopiesOwnTheirTables)
     TQ_ColourspaceParameters copy(source);
     EXPECT_TRUE(copy.qstrScriptName() == "Colorspace" && copy.qstrDisplayName() == "Colorspace");
     EXPECT_TRUE(copy.equals(source, 0.0f));
-    for (std::size_t i = 0; i < 9; ++i)
+    for (int i = 0; i < 9; ++i)
         EXPECT_TRUE(tablesOf(source)[i] && tablesOf(copy)[i] && tablesOf(source)[i] != tablesOf(copy)[i]) << i;
     // Bytes, not values: the half table holds NaNs.
     EXPECT_EQ(0, std::memcmp(source.lutHalfToFloat, copy.lutHalfToFloat, 65536 * sizeof(float)));
     EXPECT_EQ(0, std::memcmp(source.lutFloatTo8, copy.lutFloatTo8, 65536));
-    copy.lut8To16[200] = 1, copy.lutHalfToFloat[65535] = 0.0f;
-    EXPECT_TRUE(source.lut8To16[200] != 1 && std::isnan(source.lutHalfToFloat[65535]));
 
     // Assignment reuses an existing allocation, makes the missing ones, and takes both names.
     TQ_ColourspaceParameters target;
@@ -88,7 +83,7 @@ TEST(ColourspaceParameters, CopiesOwnTheirTables)
 
     // Assigning an object without tables frees every table of the target.
     target = TQ_ColourspaceParameters();
-    EXPECT_EQ(std::vector<void const*>(9, nullptr), tablesOf(target));
+    EXPECT_EQ(QVector<void const*>(9, nullptr), tablesOf(target));
     EXPECT_TRUE(target.equals(TQ_ColourspaceParameters(), 0.0f));
     TQ_ColourspaceParameters& alias = source;
     source = alias;

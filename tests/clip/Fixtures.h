@@ -3,16 +3,13 @@
 #include "clip/BaseClipInfo.h"
 #include "clip/BaseClipInfoContainer.h"
 #include "clip/ColourspaceParameters.h"
-
-#include <gtest/gtest.h>
+#include "prm/Fixtures.h"
 
 #include <QFile>
 #include <QMap>
 #include <QRegularExpression>
 #include <QStringList>
-#include <QTextStream>
-
-#include <vector>
+#include <QVector>
 
 namespace TQTest {
 
@@ -28,7 +25,7 @@ public:
 };
 
 /// The nine table pointers of a colourspace in field order, as addresses for comparison.
-inline std::vector<void const*> tablesOf(TQ_ColourspaceParameters const& c)
+inline QVector<void const*> tablesOf(TQ_ColourspaceParameters const& c)
 {
     return {c.lut16To16Forward, c.lut16To16Inverse, c.lut8To16, c.lut16To8, c.lut16ToFloat, c.lutFloatTo16,
             c.lut8ToFloat, c.lutFloatTo8, c.lutHalfToFloat};
@@ -37,11 +34,7 @@ inline std::vector<void const*> tablesOf(TQ_ColourspaceParameters const& c)
 /// The lines a set writes, expecting the write to succeed.
 inline QStringList linesOf(Prm::ParameterSet& set, QString const& prefix = QString(), bool bQualify = true)
 {
-    QString text;
-    QTextStream out(&text);
-    EXPECT_TRUE(set.bStreamOut(out, prefix, bQualify));
-    out.flush();
-    return text.split('\n', Qt::SkipEmptyParts);
+    return qstrStreamed(set, prefix, bQualify).split('\n', Qt::SkipEmptyParts);
 }
 
 /// Reads lines into `set`, each expected to be accepted. Lines written by a set named "Core" lose that

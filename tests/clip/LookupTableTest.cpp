@@ -6,7 +6,6 @@
 #include "gandalf/Error.h"
 
 #include <Imath/half.h>
-#include <gtest/gtest.h>
 
 #include <QFile>
 
@@ -198,12 +197,10 @@ TEST(ClipInfoLookupTables, EachColourspaceAgainstItsCurves)
 {
     TQ_ClipInfo clip;
     TQ_ColourspaceParameters& t = clip.colourspace;
-    std::map<QByteArray, std::function<double(int)>> const tables = {
-        {"lut8To16", [&](int i) { return t.lut8To16[i]; }}, {"lut16To8", [&](int i) { return t.lut16To8[i]; }},
-        {"lut16To16Forward", [&](int i) { return t.lut16To16Forward[i]; }},
-        {"lut16To16Inverse", [&](int i) { return t.lut16To16Inverse[i]; }},
-        {"lut8ToFloat", [&](int i) { return t.lut8ToFloat[i]; }},
-        {"lut16ToFloat", [&](int i) { return t.lut16ToFloat[i]; }}};
+#define TQ_TABLE(name) {#name, [&](int i) { return double(t.name[i]); }}
+    std::map<QByteArray, std::function<double(int)>> const tables = {TQ_TABLE(lut8To16), TQ_TABLE(lut16To8),
+        TQ_TABLE(lut16To16Forward), TQ_TABLE(lut16To16Inverse), TQ_TABLE(lut8ToFloat), TQ_TABLE(lut16ToFloat)};
+#undef TQ_TABLE
     int clips = 0;
     for (QList<QByteArray> const& f : rowsOf("ColourspaceTables.txt")) {
         if (f[0] == "clip") {
@@ -237,10 +234,7 @@ TEST(ClipInfoLookupTables, WhichTablesExist)
 {
     TQ_ClipInfo clip;
     TQ_ColourspaceParameters& c = clip.colourspace;
-    auto const iTables = [&c] {
-        std::vector<void const*> const tables = TQTest::tablesOf(c);
-        return 9 - int(std::count(tables.begin(), tables.end(), nullptr));
-    };
+    auto const iTables = [&c] { return 9 - TQTest::tablesOf(c).count(nullptr); };
     clip.CreateLUTs();
     EXPECT_EQ(0, iTables());
     // Float data alone asks for the gamma tables, with a curve of power 1; rebuilding frees the old ones.

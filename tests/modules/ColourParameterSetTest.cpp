@@ -14,7 +14,7 @@ TEST(ColourParameterSet, BandsOfOneNameReadBackByOrderTwice)
     for (int round = 0; round < 2; ++round) {
         EXPECT_EQ(document.iRead(text), text.count('\n'));
         for (int i = 0; i < 4; ++i)
-            EXPECT_EQ(keysOf(target.bands[i].Contrast), keysOf(source.bands[i].Contrast));
+            EXPECT_EQ(state(target.bands[i].Contrast), state(source.bands[i].Contrast));
         EXPECT_TRUE(target.bands[2].Brightness.isHidden() && !target.bands[3].Brightness.isHidden());
     }
     // A band's block that leaves out fields still ends where the next band's first field comes again.

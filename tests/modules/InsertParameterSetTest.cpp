@@ -1,8 +1,6 @@
 #include "clip/Fixtures.h"
 #include "modules/InsertParameterSet.h"
 
-#include <gtest/gtest.h>
-
 TEST(InsertROIParameterSet, ShowsFractionsInPixelsOfTheClipTheInsertSetNames)
 {
     TQTest::Clips clips;

@@ -5,18 +5,15 @@
 #include "modules/InsertOffsetParameterSet.h"
 #include "modules/InsertROIParameterSet.h"
 #include "prm/NumericParameter.h"
+#include "prm/ParameterTable.h"
 
-#include <gtest/gtest.h>
-
+#include <QDir>
+#include <QFile>
 #include <QMap>
 #include <QRegExp>
-#include <QRegularExpression>
-#include <QStringList>
-#include <QVector>
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <limits>
 #include <ostream>
 #include <type_traits>
 
@@ -29,70 +26,40 @@ inline void PrintTo(QString const& text, std::ostream* out)
 /// The columns of a row, blank cells as empty strings.
 enum Column { Name, Kind, Keyed, Default, Minimum, Maximum, InterpolationRule, ExtrapolationRule, DisplayName, Hidden };
 
-/// The module sets' data files, one after another.
-inline char const* const moduleSetTables =
-#include "tables/Basic.table"
-#include "tables/Blur.table"
-#include "tables/Camera3D.table"
-#include "tables/Colour.table"
-#include "tables/ColourBand.table"
-#include "tables/ColourFilter.table"
-#include "tables/Composite.table"
-#include "tables/Edge.table"
-#include "tables/Insert.table"
-#include "tables/Luminance.table"
-#include "tables/Matte.table"
-#include "tables/Offset.table"
-#include "tables/ROI.table"
-#include "tables/Remove.table"
-#include "tables/Stabilize.table"
-#include "tables/Track.table"
-#include "tables/Warper.table"
-    ;
-
-/// One set of a data file ("set <name>" up to the next "set"): rows of cells plus the set's name, moved
-/// parameters, forgotten clips and rescaled parameters (children's included, in order), what its assignment
-/// keeps (parameters, "clipContainer", child sets; * matches any ending), its child sets, and the parameters
-/// whose hidden flag `init()` sets ("*": all). Rows whose name holds %1 and %2 stand for the 17 x 17 weight
-/// grid, cell by cell. `text` may be another folder's tables, in the same form.
+/// One set of the data files in `tables/` ("set <name>" up to the next "set"): rows of cells plus the set's
+/// name, moved parameters, forgotten clips and rescaled parameters (children's included, in order), what its
+/// assignment keeps (parameters, "clipContainer", child sets; * matches any ending), its child sets, and the
+/// parameters whose hidden flag `init()` sets ("*": all). The rows read as `TQTest::tableRows` reads them.
 struct SetTable {
     QString name;
     QStringList moved, forgets, rescales, kept, children, flagsByInit;
     QVector<QStringList> rows;
 
-    explicit SetTable(QString const& setName, char const* text = moduleSetTables)
+    explicit SetTable(QString const& setName) : name(setName)
     {
-        QVector<QStringList> grid;
         QMap<QString, QStringList*> const lists{{"moved", &moved},     {"forgets", &forgets},
                                                  {"rescales", &rescales}, {"kept", &kept},
                                                  {"children", &children}, {"flags-by-init", &flagsByInit}};
-        QString current;
-        for (QString const& line : QString::fromUtf8(text).split('\n', Qt::SkipEmptyParts)) {
-            QString const word = line.section(' ', 0, 0);
-            if (word == "set")
-                current = line.section(' ', 1);
-            if (line.startsWith('#') || current != setName)
-                continue;
-            if (word == "set")
-                name = current;
-            else if (lists.contains(word))
-                for (QString const& item : line.section(' ', 1).split(',', Qt::SkipEmptyParts))
-                    *lists[word] << item.trimmed();
-            else {
-                QStringList cells = line.split(QRegularExpression(R"(\s*\|\s*)"));
-                while (cells.size() <= Hidden)
-                    cells << QString();
-                (line.contains("%1") ? grid : rows) << cells;
+        QStringList lines;
+        QDir const folder(TQ_TEST_FOLDER "/tables");
+        for (QString const& fileName : folder.entryList({"*.table"})) {
+            QFile file(folder.filePath(fileName));
+            EXPECT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text)) << fileName.toStdString();
+            QString current;
+            for (QString const& line : QString::fromUtf8(file.readAll()).split('\n')) {
+                QString const word = line.section(' ', 0, 0);
+                current = word == "set" ? line.section(' ', 1) : current;
+                if (current == setName && lists.contains(word))
+                    for (QString const& item : line.section(' ', 1).split(',', Qt::SkipEmptyParts))
+                        *lists[word] << item.trimmed();
+                else if (current == setName)
+                    lines << line;
             }
         }
-        for (int cell = 0; cell < 17 * 17 && !grid.isEmpty(); ++cell)
-            for (QStringList each : grid) {
-                each[Name] = each[Name].arg(cell / 17).arg(cell % 17);
-                rows << each;
-            }
+        rows = TQTest::tableRows(lines);
     }
 
-    /// Whether assignment leaves `member` as it was.
+/// Whether assignment leaves `member` as it was.
     bool bKept(QString const& member) const
     {
         return std::any_of(kept.begin(), kept.end(), [&member](QString const& entry) {
@@ -145,20 +112,20 @@ Prm::NumericParameter<T> const* numericOf(Prm::Parameter<T> const& parameter)
         return nullptr;
 }
 
-/// Calls `visit(typed, typeName)` with the parameter as its value type; false for a type not listed.
+/// Calls `visit(typed)` with the parameter as its value type; nothing for a type not listed.
 template <class F>
-bool bVisit(Prm::ParameterWithoutType& parameter, F&& visit)
+void vVisit(Prm::ParameterWithoutType& parameter, F&& visit)
 {
-    auto const as = [&](auto* typed, char const* name) {
+    auto const as = [&](auto* typed) {
         if (typed)
-            visit(*typed, QString::fromLatin1(name));
+            visit(*typed);
         return typed != nullptr;
     };
-#define TQ_TRY_TYPE(T) as(dynamic_cast<Prm::Parameter<T>*>(&parameter), #T) ||
-    return TQ_TRY_TYPE(bool) TQ_TRY_TYPE(unsigned char) TQ_TRY_TYPE(int) TQ_TRY_TYPE(unsigned int)
-        TQ_TRY_TYPE(float) TQ_TRY_TYPE(double) TQ_TRY_TYPE(_TrackModel) TQ_TRY_TYPE(TQ_BlendMode)
-        TQ_TRY_TYPE(TQ_MATTE_SUBTYPE) TQ_TRY_TYPE(TQ_REMOVESOURCE_MODE) TQ_TRY_TYPE(TQ_ILLUMINATION_MODEL)
-            TQ_TRY_TYPE(TQ_FILL_ALGORITHM) TQ_TRY_TYPE(TQ_LUMINANCE_MODEL) TQ_TRY_TYPE(QString) false;
+#define TQ_TRY_TYPE(T) as(dynamic_cast<Prm::Parameter<T>*>(&parameter)) ||
+    TQ_TRY_TYPE(bool) TQ_TRY_TYPE(unsigned char) TQ_TRY_TYPE(int) TQ_TRY_TYPE(unsigned int) TQ_TRY_TYPE(float)
+        TQ_TRY_TYPE(double) TQ_TRY_TYPE(_TrackModel) TQ_TRY_TYPE(TQ_BlendMode) TQ_TRY_TYPE(TQ_MATTE_SUBTYPE)
+            TQ_TRY_TYPE(TQ_REMOVESOURCE_MODE) TQ_TRY_TYPE(TQ_ILLUMINATION_MODEL) TQ_TRY_TYPE(TQ_FILL_ALGORITHM)
+                TQ_TRY_TYPE(TQ_LUMINANCE_MODEL) TQ_TRY_TYPE(QString) false;
 #undef TQ_TRY_TYPE
 }
 
@@ -166,8 +133,8 @@ bool bVisit(Prm::ParameterWithoutType& parameter, F&& visit)
 /// script name left blank), then its static value, its extrapolation before the keys and its keys.
 inline QStringList factsOf(Prm::ParameterWithoutType& parameter)
 {
-    QStringList facts;
-    bool const bKnown = bVisit(parameter, [&](auto const& typed, QString const& type) {
+    QStringList facts{"unknown value type"};
+    vVisit(parameter, [&](auto const& typed) {
         using T = std::decay_t<decltype(typed.staticValue())>;
         auto const* numeric = numericOf(typed);
         auto const rule = [](int rule, char const* one) { return rule == 2 ? "linear" : rule == 1 ? one : "0"; };
@@ -176,20 +143,19 @@ inline QStringList factsOf(Prm::ParameterWithoutType& parameter)
                                  ? QString("TQ_InsertROIParameterSet::ROIParameter")
                              : dynamic_cast<TQ::RotationParameter const*>(&typed)
                                  ? QString("TQ_InsertOffsetParameterSet::RotationParameter")
-                             : numeric ? "NumericParameter<" + type + ">"
-                                       : "Parameter<" + type + ">";
-        facts << typed.qstrScriptName() << kind << (typed.isKeyframed() ? "yes" : "no")
-              << qstrCell(typed.defaultValue()) << (numeric ? qstrCell(numeric->minimum()) : QString())
-              << (numeric ? qstrCell(numeric->maximum()) : QString())
-              << rule(DefaultInterpolation<T>::of(typed), "step") << rule(typed.extrapolationAfter(), "hold")
-              << (typed.qstrDisplayName() == typed.qstrScriptName() ? QString() : typed.qstrDisplayName())
-              << (typed.isHidden() ? "yes" : "no") << qstrCell(typed.staticValue())
-              << rule(typed.extrapolationBefore(), "hold");
+                                 : TQTest::parameterRowOf(typed)[Kind];
+        facts = QStringList{typed.qstrScriptName(), kind, typed.isKeyframed() ? "yes" : "no"}
+                << qstrCell(typed.defaultValue()) << (numeric ? qstrCell(numeric->minimum()) : QString())
+                << (numeric ? qstrCell(numeric->maximum()) : QString())
+                << rule(DefaultInterpolation<T>::of(typed), "step") << rule(typed.extrapolationAfter(), "hold")
+                << (typed.qstrDisplayName() == typed.qstrScriptName() ? QString() : typed.qstrDisplayName())
+                << (typed.isHidden() ? "yes" : "no") << qstrCell(typed.staticValue())
+                << rule(typed.extrapolationBefore(), "hold");
         for (unsigned int i = 0; i < typed.keyframeCount(); ++i)
             facts << QString("key %1 %2 %3").arg(typed.keyframeTime(i)).arg(qstrCell(typed.keyframeValue(i)))
                          .arg(typed.interpolation(i));
     });
-    return bKnown ? facts : QStringList{"unknown value type"};
+    return facts;
 }
 
 /// Expects `set` to follow `table`: display name, moved parameters, child sets, then row by row, each
@@ -227,10 +193,8 @@ T tPick(Prm::Parameter<T> const& parameter, int step)
         auto const* numeric = numericOf(parameter);
         double const low = numeric ? double(numeric->minimum()) : double(std::numeric_limits<T>::lowest());
         double const high = numeric ? double(numeric->maximum()) : double(std::numeric_limits<T>::max());
-        double value = std::floor(double(initial)) + step;
-        if (value > high)
-            value = std::floor(double(initial)) - step;
-        return static_cast<T>(std::min(std::max(value, low), high));
+        double const up = std::floor(double(initial)) + step;
+        return static_cast<T>(std::clamp(up > high ? up - 2 * step : up, low, high));
     }
 }
 
@@ -239,7 +203,7 @@ T tPick(Prm::Parameter<T> const& parameter, int step)
 inline void vMutate(Prm::ParameterSet const& set, int seed)
 {
     for (Prm::ParameterWithoutType* parameter : everyParameter(set)) {
-        bVisit(*parameter, [&](auto& typed, QString const&) {
+        vVisit(*parameter, [&](auto& typed) {
             typed.vSetValue(tPick(typed, seed), 2.0f); // the static value when not keyed
             if (typed.isKeyframed()) {
                 typed.vSetValue(tPick(typed, seed + 1), 9.0f);

@@ -30,6 +30,29 @@ inline QString qstrLimit(QString const& cell, QString const& kind)
     return cell.isEmpty() ? cell : QString::number(bFloat ? double(float(value)) : value, 'g', 17);
 }
 
+/// The rows among `lines`: each line holding '|' and not starting with # split at '|' into trimmed cells,
+/// padded with blanks to the ten columns; grid rows (%1 and %2 in the name) follow the others, repeated for each
+/// cell of the 17 x 17 grid with %1 its row and %2 its column.
+inline QVector<QStringList> tableRows(QStringList const& lines)
+{
+    QVector<QStringList> rows, grid;
+    for (QString const& line : lines) {
+        QStringList cells = line.split('|');
+        for (QString& cell : cells)
+            cell = cell.trimmed();
+        while (cells.size() < 10)
+            cells << QString();
+        if (!line.startsWith('#') && line.contains('|'))
+            (cells[0].contains("%1") ? grid : rows) << cells;
+    }
+    for (int cell = 0; cell < 17 * 17 && !grid.isEmpty(); ++cell)
+        for (QStringList each : grid) {
+            each[0] = each[0].arg(cell / 17).arg(cell % 17);
+            rows << each;
+        }
+    return rows;
+}
+
 /// One parameter in the table's columns, limits as `qstrLimit` gives them.
 inline QStringList parameterRowOf(Prm::ParameterWithoutType const& parameter)
 {
@@ -54,19 +77,7 @@ inline QStringList parameterRowOf(Prm::ParameterWithoutType const& parameter)
 /// Expects the parameters of `set` to be the rows of `table`, in order.
 inline void expectParameterTable(Prm::ParameterSet const& set, char const* table)
 {
-    QVector<QStringList> rows, grid;
-    for (QString const& line : QString::fromUtf8(table).split('\n', Qt::SkipEmptyParts)) {
-        QStringList cells = line.split('|');
-        for (QString& cell : cells)
-            cell = cell.trimmed();
-        if (!line.startsWith('#') && cells.size() == 10)
-            (cells[0].contains("%1") ? grid : rows) << cells;
-    }
-    for (int cell = 0; cell < 17 * 17 && !grid.isEmpty(); ++cell)
-        for (QStringList each : grid) {
-            each[0] = each[0].arg(cell / 17).arg(cell % 17);
-            rows << each;
-        }
+    QVector<QStringList> rows = tableRows(QString::fromUtf8(table).split('\n'));
     QVector<Prm::ParameterWithoutType*> const parameters = set.parameterList();
     ASSERT_EQ(parameters.size(), rows.size());
     for (int i = 0; i < rows.size(); ++i) {
