@@ -356,6 +356,7 @@ void TQ_ClipInfo::vAppendDiscreteFrame(QByteArray const& utf8Name, unsigned int 
 {
     if (!frameList)
         frameList = newFrameList();
+    // A record's name is a C string: it ends at the first NUL byte, as saved projects read it back.
     if (frameList)
-        vAppendFrame(frameList.get(), DiscreteFrame{utf8Name, frame});
+        vAppendFrame(frameList.get(), DiscreteFrame{QByteArray(utf8Name.constData()), frame});
 }

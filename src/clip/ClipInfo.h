@@ -28,7 +28,8 @@ class QTextStream;
 class TQ_ClipInfo : public Prm::ParameterSet
 {
 public:
-    /// One discrete frame: the file name as UTF-8, kept whole at any length, and its frame number.
+    /// One discrete frame: the file name as UTF-8 up to its first NUL byte, kept whole at any length, and
+    /// its frame number.
     struct DiscreteFrame {
         QByteArray name;
         unsigned int frame;
@@ -74,7 +75,8 @@ public:
     /// The frame list, or null when none exists. The clip (or the clips sharing it) owns it; walk it with
     /// the Gandalf list functions, whose nodes are `DiscreteFrame` records.
     Gan_List* discreteFrameList() const;
-    /// Appends a frame to the list, creating the list when needed; `utf8Name` is copied whole.
+    /// Appends a frame to the list, creating the list when needed; `utf8Name` is copied up to its first
+    /// NUL byte.
     void vAppendDiscreteFrame(QByteArray const& utf8Name, unsigned int frame);
 
     _TQ_BOOL ReadOnly;

@@ -114,6 +114,7 @@ TEST(ClipInfo, DiscreteFrameLinesInOutAndBack)
         {{"Frames.DiscreteFrame(\td , 1, 2 ,  0042 )"}, 1, {"d , 1, 2 , 42"}},
         {{"Frames.DiscreteFrame( " + longName + ", 4294967295 )"}, 1, {longName + ", 4294967295"}},
         {{"Frames.DiscreteFrame( big, 4294967296 )"}, 1, {"big, 0"}},
+        {{"Frames.DiscreteFrame( a" + QString(QChar(0)) + "b, 3 )"}, 1, {"a, 3"}}, // a name ends at a NUL
         // A damaged line after good ones loses nothing.
         {{"Frames.DiscreteFrame( \xc3\xa9t\xc3\xa9.exr, 0 )", "Frames.DiscreteFrame( b, 0 )",
           "Frames.keyframes.append( DiscreteFrame( broken"}, 2, {"\xc3\xa9t\xc3\xa9.exr, 0", "b, 0"}},
