@@ -15,6 +15,7 @@
 
 #include <QCoreApplication>
 #include <QTextStream>
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -40,7 +41,8 @@ Parameter<T>::Parameter(bool bKeyframedIn, char const* name)
       eExtrapolationBefore(ExtrapolationUnset),
       eExtrapolationAfter(ExtrapolationUnset),
       eDefaultInterpolation(InterpolationUnset),
-      bStreamingIn(false)
+      bStreamingIn(false),
+      iOrderedKeys(-1)
 {
     displayName = QString::fromUtf8(name);
     scriptName = QString::fromLatin1(name);
@@ -56,7 +58,8 @@ Parameter<T>::Parameter(bool bKeyframedIn, char const* name, T const& value, Int
       eExtrapolationBefore(extrapolation),
       eExtrapolationAfter(extrapolation),
       eDefaultInterpolation(interpolation),
-      bStreamingIn(false)
+      bStreamingIn(false),
+      iOrderedKeys(-1)
 {
     displayName = QCoreApplication::translate("Parameter", name);
     scriptName = QString::fromLatin1(name);
@@ -73,7 +76,8 @@ Parameter<T>::Parameter(Parameter const& other)
       eDefaultInterpolation(other.eDefaultInterpolation),
       keyframes(other.keyframes),
       interpolationRecords(other.interpolationRecords),
-      bStreamingIn(false)
+      bStreamingIn(false),
+      iOrderedKeys(-1)
 {
     displayName = other.displayName;
     scriptName = other.scriptName;
@@ -94,6 +98,7 @@ Parameter<T>& Parameter<T>::operator=(Parameter const& other)
     eExtrapolationAfter = other.eExtrapolationAfter;
     keyframes = other.keyframes;
     interpolationRecords = other.interpolationRecords;
+    iOrderedKeys = -1;
     vRaise(ParameterChange::ParameterReplaced, 0);
     return *this;
 }
@@ -110,9 +115,42 @@ Parameter<T> const* Parameter<T>::typedMaster() const
 }
 
 template <class T>
+bool Parameter<T>::bKeysOrdered() const
+{
+    return iOrderedKeys == keyframes.size();
+}
+
+template <class T>
+bool Parameter<T>::bCheckKeysOrdered()
+{
+    if (bKeysOrdered())
+        return true;
+    KeyframeData<T> const* keys = keyframes.constData();
+    int const n = keyframes.size();
+    for (int i = 0; i < n; ++i) {
+        // A NaN time compares false both ways, so `<` alone would let it through.
+        if (!(keys[i].fTime == keys[i].fTime) || (i > 0 && !(keys[i - 1].fTime < keys[i].fTime)))
+            return false;
+    }
+    iOrderedKeys = n;
+    return true;
+}
+
+template <class T>
 int Parameter<T>::iKeyIndex(float time) const
 {
     int const n = keyframes.size();
+    if (bKeysOrdered() && n > 0) {
+        // Strictly ascending times: the one key at `time`, found by halving (the last one first, where a
+        // reader's keys land).
+        KeyframeData<T> const* keys = keyframes.constData();
+        if (keys[n - 1].fTime == time)
+            return n - 1;
+        auto const found = std::lower_bound(keys, keys + n, time, [](KeyframeData<T> const& key, float t) {
+            return key.fTime < t;
+        });
+        return found != keys + n && found->fTime == time ? int(found - keys) : -1;
+    }
     for (int i = 0; i < n; ++i) {
         if (keyframes[i].fTime == time)
             return i;
@@ -209,6 +247,7 @@ int Parameter<T>::iInsertKey(KeyframeData<T> const& key, int next, Interpolation
     IType record;
     record.eType = kind;
     int const n = keyframes.size();
+    iOrderedKeys = -1;
     if (next != -1) {
         record = intitialiseInterpolation(key, keyframes[next], kind);
         keyframes.insert(next, key);
@@ -235,7 +274,10 @@ int Parameter<T>::vSetValue(T const& newValue, float time)
     // iKeyIndex and iNextKeyIndex in one pass: the first key at `time`, else the first key after it.
     int index = -1;
     int next = -1;
-    for (int i = 0, n = keyframes.size(); i < n && index < 0; ++i) {
+    int const count = keyframes.size();
+    // Behind the last of strictly ascending keys: no key at `time` and none after it, without the scan.
+    bool const bAppends = count > 0 && keyframes[count - 1].fTime < time && bCheckKeysOrdered();
+    for (int i = 0, n = bAppends ? 0 : count; i < n && index < 0; ++i) {
         float const keyTime = keyframes[i].fTime;
         if (keyTime == time)
             index = i;
@@ -250,6 +292,8 @@ int Parameter<T>::vSetValue(T const& newValue, float time)
     // A set key takes the kind of the segment it will start, unlike iAddKeyframe.
     Interpolation const kind = next == -1 ? eDefaultInterpolation : eRecordKind(next);
     index = iInsertKey(KeyframeData<T>{time, newValue}, next, kind);
+    // Keys stay strictly ascending after an append behind them, or after a first key that is not NaN.
+    iOrderedKeys = bAppends || (count == 0 && time == time) ? keyframes.size() : -1;
     vRaise(ParameterChange::KeyframeAdded, static_cast<unsigned int>(index));
     vRaise(ParameterChange::ValueChanged, static_cast<unsigned int>(index));
     return index;
@@ -278,6 +322,7 @@ int Parameter<T>::moveAndChangeKeyframe(T const& newValue, float fromTime, float
     int const n = keyframes.size();
     bool const bStays = (index == 0 || !(toTime < keyframes[index - 1].fTime))
                         && (index == n - 1 || !(keyframes[index + 1].fTime < toTime));
+    iOrderedKeys = -1;
     if (bStays) {
         keyframes[index].fTime = toTime;
         keyframes[index].tValue = newValue;
@@ -516,6 +561,7 @@ void Parameter<T>::vDeleteKeyframe(float time)
         return;
     if (keyframes.size() == 1)
         tStaticValue = keyframes[0].tValue;
+    iOrderedKeys = -1;
     keyframes.remove(index);
     if (index < interpolationRecords.size())
         interpolationRecords.remove(index);
@@ -528,6 +574,7 @@ void Parameter<T>::vDeleteAllKeyframes()
     if (!bKeyframed)
         return;
     keyframes.clear();
+    iOrderedKeys = -1;
     interpolationRecords.clear();
     vRaise(ParameterChange::AllKeyframesDeleted, 0);
 }
@@ -595,6 +642,7 @@ void Parameter<T>::vCopyKeyframeDataFrom(ParameterWithoutType const* source)
     eExtrapolationBefore = other->eExtrapolationBefore;
     eExtrapolationAfter = other->eExtrapolationAfter;
     keyframes = other->keyframes;
+    iOrderedKeys = -1;
     interpolationRecords = other->interpolationRecords;
     vRaise(ParameterChange::ParameterReplaced, 0);
 }
@@ -647,7 +695,7 @@ LineRead eReadKeyLine(Parameter<T>& parameter, QString const& line,
                       boost::function<QString(QString const&)> const& textFilter)
 {
     // Only the case-sensitive block word tells the two blocks apart, wherever it stands.
-    bool const bBezier = line.contains(QLatin1String("BezierKey"), Qt::CaseSensitive);
+    bool const bBezier = bHasBezierBlockWord(line);
     // The entries of parseKeyframeDeclaration, as views: no copy of each on the load path.
     KeyframeEntries tokens;
     vKeyframeDeclarationEntries(line, tokens);
@@ -655,7 +703,7 @@ LineRead eReadKeyLine(Parameter<T>& parameter, QString const& line,
         vLogKeyFailure("Key", line);
         return LineRead::Failed;
     }
-    float const time = tokens.at(0).toFloat();
+    float const time = NumberText::fToFloat(tokens.at(0));
     T value{};
     if (textFilter || !NumberText::bReadPlain(tokens.at(1), value)) {
         QString text = textFilter ? textFilter(tokens.at(1).toString()) : tokens.at(1).toString();
@@ -674,10 +722,12 @@ LineRead eReadKeyLine(Parameter<T>& parameter, QString const& line,
     }
     IType record;
     record.eType = InterpolationBezier;
-    record.dOutTime = tokens.at(2).toDouble();
-    record.dOutValue = tokens.at(3).toDouble();
-    record.dInTime = tokens.at(4).toDouble();
-    record.dInValue = tokens.at(5).toString().remove(QLatin1Char(')')).toDouble();
+    record.dOutTime = NumberText::dToDouble(tokens.at(2));
+    record.dOutValue = NumberText::dToDouble(tokens.at(3));
+    record.dInTime = NumberText::dToDouble(tokens.at(4));
+    QStringRef const last = tokens.at(5);
+    record.dInValue = last.contains(QLatin1Char(')')) ? last.toString().remove(QLatin1Char(')')).toDouble()
+                                                      : NumberText::dToDouble(last);
     // -1 (not keyframed) becomes an index out of range, which the setter ignores.
     parameter.vSetInterpolationData(record, static_cast<unsigned int>(index));
     return LineRead::Taken;

@@ -152,6 +152,24 @@ TextField eTextField(QString const& line)
     return TextField::Unknown;
 }
 
+bool bHasBezierBlockWord(QString const& line)
+{
+    // As contains(QLatin1String("BezierKey")), without Qt's search set-up for each line.
+    static char const word[] = "BezierKey";
+    int const length = int(sizeof(word)) - 1;
+    QChar const* const chars = line.constData();
+    for (int i = 0, last = line.size() - length; i <= last; ++i) {
+        if (chars[i].unicode() != ushort('B'))
+            continue;
+        int k = 1;
+        while (k < length && chars[i + k].unicode() == ushort(word[k]))
+            ++k;
+        if (k == length)
+            return true;
+    }
+    return false;
+}
+
 QString qstrFieldText(QString const& line)
 {
     // Same text as section('=', 1, 1), without the list that section builds.

@@ -5,6 +5,9 @@
 #include <QString>
 #include <QTextStream>
 #include <QVariant>
+#include <cfloat>
+#include <charconv>
+#include <cmath>
 #include <type_traits>
 
 namespace Prm {
@@ -55,15 +58,51 @@ bool bPlainInteger(Text const& text, bool bSigned)
     return true;
 }
 
-/// Reads `text` (a QString or a QStringRef) without building a stream when it is a number whose every reading agrees: the stream's
-/// readers and QString's conversions both round correctly in the C locale. False, `value` untouched, for
-/// any other text, which the caller reads through a stream as before.
+/// The value of a text that `bPlainReal` accepts, correctly rounded as QString's conversion rounds it,
+/// without that conversion's heap copy and locale checks: the text is at most 40 ASCII characters.
+template <class Text>
+double dPlainValue(Text const& text)
+{
+    char ascii[48];
+    int const n = qMin(text.size(), 40);
+    QChar const* const chars = text.unicode();
+    for (int i = 0; i < n; ++i)
+        ascii[i] = static_cast<char>(chars[i].unicode());
+    double value = 0.0;
+    std::from_chars(ascii, ascii + n, value);
+    return value;
+}
+
+/// `text.toDouble()`, faster for plain decimal numbers.
+template <class Text>
+double dToDouble(Text const& text)
+{
+    return bPlainReal(text) ? dPlainValue(text) : text.toDouble();
+}
+
+/// `text.toFloat()`, faster for plain decimal numbers whose double lies in the normal float range or is
+/// zero (Qt narrows those as a cast does; it treats overflow and underflow on its own).
+template <class Text>
+float fToFloat(Text const& text)
+{
+    if (bPlainReal(text)) {
+        double const wide = dPlainValue(text);
+        double const magnitude = std::fabs(wide);
+        if (wide == 0.0 || (magnitude >= double(FLT_MIN) && magnitude <= double(FLT_MAX)))
+            return static_cast<float>(wide);
+    }
+    return text.toFloat();
+}
+
+/// Reads `text` (a QString or a QStringRef) without building a stream when it is a number whose every
+/// reading agrees: the stream's readers and QString's conversions both round correctly in the C locale.
+/// False, `value` untouched, for any other text, which the caller reads through a stream as before.
 template <class Text>
 bool bReadPlain(Text const& text, double& value)
 {
     if (!bPlainReal(text))
         return false;
-    value = text.toDouble();
+    value = dPlainValue(text);
     return true;
 }
 
