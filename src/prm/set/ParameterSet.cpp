@@ -8,13 +8,16 @@
 namespace Prm {
 
 ParameterSet::ParameterSet(QString const& name, ParameterTree*)
-    : bBasicParametersOwned(false), displayName(name), scriptName(name)
+    : bBasicParametersOwned(false), displayName(name), scriptName(name), bLineBuffersInUse(false)
 {
     ParameterLineRouter::vNamesChanged();
 }
 
 ParameterSet::ParameterSet(ParameterSet const& other)
-    : bBasicParametersOwned(false), displayName(other.displayName), scriptName(other.scriptName)
+    : bBasicParametersOwned(false),
+      displayName(other.displayName),
+      scriptName(other.scriptName),
+      bLineBuffersInUse(false)
 {
     ParameterLineRouter::vNamesChanged();
 }
@@ -72,9 +75,20 @@ bool ParameterSet::bStreamIn(QString const& line)
     int const dot = line.indexOf(QLatin1Char('.'));
     if (dot <= 0)
         return false;
-    // The name only looks things up, so it may borrow the line's characters.
-    QString const name = QString::fromRawData(line.constData(), dot);
-    QString const rest = line.mid(dot + 1);
+    if (bLineBuffersInUse)
+        return bStreamInParts(line.left(dot), line.mid(dot + 1));
+    // The name and the rest are copied into strings kept from line to line, so that a line costs no
+    // allocation; a reader that keeps the rest shares it, and the next line then detaches.
+    bLineBuffersInUse = true;
+    nameBuffer.setUnicode(line.constData(), dot);
+    restBuffer.setUnicode(line.constData() + dot + 1, line.size() - dot - 1);
+    bool const bTaken = bStreamInParts(nameBuffer, restBuffer);
+    bLineBuffersInUse = false;
+    return bTaken;
+}
+
+bool ParameterSet::bStreamInParts(QString const& name, QString const& rest)
+{
     LineTargets const& targets = targetsOf(name);
     int const parameterCount = targets.parameters.size();
     int const count = parameterCount + targets.basicParameters.size();

@@ -63,6 +63,8 @@ protected:
     bool bBasicParametersOwned;
 
 private:
+    /// `bStreamIn` with the line cut at its first dot.
+    bool bStreamInParts(QString const& name, QString const& rest);
     /// Hands a line to the child sets at `children`, all named `name`; among several, first to the one
     /// whose block the line continues.
     bool bStreamInChild(QString const& name, QString const& rest, QVector<int> const& children);
@@ -77,6 +79,11 @@ private:
     // Reading state, never copied or assigned: the name index and the choice among parameters that
     // share a name.
     ParameterLineRouter lineRouter;
+    // The parts of the line being read, kept for their capacity; a line that comes back to this set while
+    // it reads one gets fresh strings instead.
+    QString nameBuffer;
+    QString restBuffer;
+    bool bLineBuffersInUse;
 };
 
 } // namespace Prm

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <climits>
 
 namespace Prm {
@@ -53,7 +54,7 @@ bool bValueOfName(QStringRef const& text, QStringList const& names, int& value)
     // Closing parentheses and blanks around the name are not part of it; most texts have neither.
     QString withoutParentheses;
     QStringRef cleaned = text.trimmed();
-    if (text.contains(QLatin1Char(')'))) {
+    if (std::find(text.cbegin(), text.cend(), QLatin1Char(')')) != text.cend()) {
         withoutParentheses = text.toString().remove(QLatin1Char(')'));
         cleaned = QStringRef(&withoutParentheses).trimmed();
     }

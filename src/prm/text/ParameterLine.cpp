@@ -38,20 +38,24 @@ int iAsciiPrefix(QString const& line, QLatin1String word)
 }
 
 QLatin1Char const quote('"');
+ushort const quoteCode = '"';
 
 // Index just behind the opening parenthesis of the inner call, or -1 when the line has none in front of
 // its first comma.
 int iArgumentStart(QString const& line)
 {
+    QChar const* const chars = line.constData();
     bool bQuoted = false;
     int start = -1;
-    for (int i = 0; i < line.size(); ++i) {
-        QChar const c = line.at(i);
-        if (c == quote)
+    for (int i = 0, n = line.size(); i < n; ++i) {
+        ushort const c = chars[i].unicode();
+        if (c == quoteCode)
             bQuoted = !bQuoted;
-        else if (!bQuoted && c == QLatin1Char(','))
+        else if (bQuoted)
+            continue;
+        else if (c == ',')
             break;
-        else if (!bQuoted && c == QLatin1Char('('))
+        else if (c == '(')
             start = i + 1;
     }
     return start;
@@ -61,32 +65,40 @@ int iArgumentStart(QString const& line)
 // closes the call or the end of the line. Each entry starts outside quotes and parentheses.
 int iEntryEnd(QString const& line, int from, bool& bLast)
 {
+    QChar const* const chars = line.constData();
+    int const n = line.size();
     bool bQuoted = false;
     int depth = 0;
     bLast = true;
-    for (int i = from; i < line.size(); ++i) {
-        QChar const c = line.at(i);
-        if (c == quote) {
+    for (int i = from; i < n; ++i) {
+        ushort const c = chars[i].unicode();
+        if (c == quoteCode) {
             bQuoted = !bQuoted;
         } else if (bQuoted) {
             continue;
-        } else if (c == QLatin1Char('(')) {
+        } else if (c == '(') {
             ++depth;
-        } else if (c == QLatin1Char(')')) {
+        } else if (c == ')') {
             if (depth == 0)
                 return i;
             --depth;
-        } else if (depth == 0 && c == QLatin1Char(',')) {
+        } else if (depth == 0 && c == ',') {
             bLast = false;
             return i;
         }
     }
-    return line.size();
+    return n;
 }
 
+// As line.midRef(from, to - from).trimmed(): blanks off the end first, then off the start.
 QStringRef entryRef(QString const& line, int from, int to)
 {
-    return line.midRef(from, to - from).trimmed();
+    QChar const* const chars = line.constData();
+    while (to > from && chars[to - 1].isSpace())
+        --to;
+    while (from < to && chars[from].isSpace())
+        ++from;
+    return QStringRef(&line, from, to - from);
 }
 
 // Appends the entries from `from` to the end of the call; an empty last entry counts only behind others.
@@ -158,9 +170,8 @@ bool bHasBezierBlockWord(QString const& line)
     static char const word[] = "BezierKey";
     int const length = int(sizeof(word)) - 1;
     QChar const* const chars = line.constData();
-    for (int i = 0, last = line.size() - length; i <= last; ++i) {
-        if (chars[i].unicode() != ushort('B'))
-            continue;
+    int const last = line.size() - length;
+    for (int i = line.indexOf(QLatin1Char('B')); i >= 0 && i <= last; i = line.indexOf(QLatin1Char('B'), i + 1)) {
         int k = 1;
         while (k < length && chars[i + k].unicode() == ushort(word[k]))
             ++k;

@@ -66,8 +66,48 @@ double dPlainValue(Text const& text)
     char ascii[48];
     int const n = qMin(text.size(), 40);
     QChar const* const chars = text.unicode();
-    for (int i = 0; i < n; ++i)
-        ascii[i] = static_cast<char>(chars[i].unicode());
+    // Digits as an integer and the power of ten that scales them; when both are exact in a double, one
+    // multiplication or division rounds correctly (most texts that files hold end here).
+    quint64 digits = 0;
+    int significant = 0;
+    int scale = 0;
+    bool bFraction = false;
+    int i = 0;
+    for (; i < n; ++i) {
+        ushort const c = chars[i].unicode();
+        ascii[i] = static_cast<char>(c);
+        if (c == '.') {
+            bFraction = true;
+        } else if (c >= '0' && c <= '9') {
+            if (significant < 19) {
+                digits = digits * 10 + (c - '0');
+                significant += digits != 0 ? 1 : 0;
+                scale -= bFraction ? 1 : 0;
+            } else {
+                scale += bFraction ? 0 : 1;
+            }
+        } else if (c == 'e' || c == 'E') {
+            break;
+        }
+    }
+    int exponent = 0;
+    bool bNegativeExponent = false;
+    for (int k = i; k < n; ++k) {
+        ushort const c = chars[k].unicode();
+        ascii[k] = static_cast<char>(c);
+        if (c == '-')
+            bNegativeExponent = true;
+        else if (c >= '0' && c <= '9')
+            exponent = exponent * 10 + (c - '0');
+    }
+    scale += bNegativeExponent ? -exponent : exponent;
+    static double const powers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                    1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+    if (digits <= (quint64(1) << 53) && scale >= -22 && scale <= 22) {
+        double const magnitude = double(digits);
+        double const value = scale < 0 ? magnitude / powers[-scale] : magnitude * powers[scale];
+        return chars[0].unicode() == '-' ? -value : value;
+    }
     double value = 0.0;
     std::from_chars(ascii, ascii + n, value);
     return value;
