@@ -130,6 +130,8 @@ protected:
     bool bKeysOrdered() const;
     /// The same, looking at the keys (once per change of them) when not known.
     bool bCheckKeysOrdered();
+    /// With ordered keys: the index of the first key not before `time` (not NaN), the key count for none.
+    int iOrderedLowerBound(float time) const;
     /// Index of the first key later than `time`, or -1.
     int iNextKeyIndex(float time) const;
     /// The segment the halving search of `value` ends in, or -1 when it meets a key at exactly `time` on

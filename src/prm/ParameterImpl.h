@@ -137,19 +137,25 @@ bool Parameter<T>::bCheckKeysOrdered()
 }
 
 template <class T>
+int Parameter<T>::iOrderedLowerBound(float time) const
+{
+    KeyframeData<T> const* const keys = keyframes.constData();
+    int const n = keyframes.size();
+    // A reader's keys mostly land behind the last one.
+    if (n == 0 || keys[n - 1].fTime < time)
+        return n;
+    auto const before = [](KeyframeData<T> const& key, float t) { return key.fTime < t; };
+    return int(std::lower_bound(keys, keys + n, time, before) - keys);
+}
+
+template <class T>
 int Parameter<T>::iKeyIndex(float time) const
 {
     int const n = keyframes.size();
     if (bKeysOrdered() && n > 0) {
-        // Strictly ascending times: the one key at `time`, found by halving (the last one first, where a
-        // reader's keys land).
-        KeyframeData<T> const* keys = keyframes.constData();
-        if (keys[n - 1].fTime == time)
-            return n - 1;
-        auto const found = std::lower_bound(keys, keys + n, time, [](KeyframeData<T> const& key, float t) {
-            return key.fTime < t;
-        });
-        return found != keys + n && found->fTime == time ? int(found - keys) : -1;
+        // Strictly ascending times: the one key at `time`, found by halving.
+        int const found = time == time ? iOrderedLowerBound(time) : n;
+        return found < n && keyframes[found].fTime == time ? found : -1;
     }
     for (int i = 0; i < n; ++i) {
         if (keyframes[i].fTime == time)
@@ -275,9 +281,16 @@ int Parameter<T>::vSetValue(T const& newValue, float time)
     int index = -1;
     int next = -1;
     int const count = keyframes.size();
-    // Behind the last of strictly ascending keys: no key at `time` and none after it, without the scan.
-    bool const bAppends = count > 0 && keyframes[count - 1].fTime < time && bCheckKeysOrdered();
-    for (int i = 0, n = bAppends ? 0 : count; i < n && index < 0; ++i) {
+    bool const bOrdered = count > 0 && bCheckKeysOrdered();
+    if (bOrdered) {
+        // Found by halving; a NaN time meets no key and comes before none.
+        int const found = time == time ? iOrderedLowerBound(time) : count;
+        if (found < count && keyframes[found].fTime == time)
+            index = found;
+        else if (found < count)
+            next = found;
+    }
+    for (int i = 0, n = bOrdered ? 0 : count; i < n && index < 0; ++i) {
         float const keyTime = keyframes[i].fTime;
         if (keyTime == time)
             index = i;
@@ -292,8 +305,8 @@ int Parameter<T>::vSetValue(T const& newValue, float time)
     // A set key takes the kind of the segment it will start, unlike iAddKeyframe.
     Interpolation const kind = next == -1 ? eDefaultInterpolation : eRecordKind(next);
     index = iInsertKey(KeyframeData<T>{time, newValue}, next, kind);
-    // Keys stay strictly ascending after an append behind them, or after a first key that is not NaN.
-    iOrderedKeys = bAppends || (count == 0 && time == time) ? keyframes.size() : -1;
+    // A key that is not at NaN keeps ascending keys ascending.
+    iOrderedKeys = (bOrdered || count == 0) && time == time ? keyframes.size() : -1;
     vRaise(ParameterChange::KeyframeAdded, static_cast<unsigned int>(index));
     vRaise(ParameterChange::ValueChanged, static_cast<unsigned int>(index));
     return index;

@@ -49,6 +49,8 @@ int iArgumentStart(QString const& line)
     int start = -1;
     for (int i = 0, n = line.size(); i < n; ++i) {
         ushort const c = chars[i].unicode();
+        if (c > ',')
+            continue;
         if (c == quoteCode)
             bQuoted = !bQuoted;
         else if (bQuoted)
@@ -72,6 +74,9 @@ int iEntryEnd(QString const& line, int from, bool& bLast)
     bLast = true;
     for (int i = from; i < n; ++i) {
         ushort const c = chars[i].unicode();
+        // Letters, digits, points and blanks decide nothing.
+        if (c > ',' || c == ' ')
+            continue;
         if (c == quoteCode) {
             bQuoted = !bQuoted;
         } else if (bQuoted) {

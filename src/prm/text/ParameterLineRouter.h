@@ -33,6 +33,11 @@ class ParameterLineRouter {
 public:
     enum List { Parameters = 0, BasicParameters = 1, ChildSets = 2 };
 
+    ParameterLineRouter() = default;
+    // It points into its own index.
+    ParameterLineRouter(ParameterLineRouter const&) = delete;
+    ParameterLineRouter& operator=(ParameterLineRouter const&) = delete;
+
     /// Index, among `candidateCount` parameters named `name` in set order, of the one that takes a line
     /// of `field`. A line of unknown field goes to the current block and changes nothing. `name` may
     /// borrow its characters (`QString::fromRawData`): nothing keeps it.
@@ -70,6 +75,9 @@ private:
 
     QHash<QString, Cursor> cursors;
     QHash<QString, LineTargets> nameIndex;
+    // The entry of `nameIndex` found last and its name (a copy, kept for its capacity); null when none.
+    QString lastName;
+    LineTargets const* pLastTargets = nullptr;
     std::array<int, 3> indexedCounts = {{-1, -1, -1}};
     unsigned int uiIndexedGeneration = 0;
     QHash<QString, Cursor> setCursors;
@@ -96,13 +104,20 @@ LineTargets const& ParameterLineRouter::targetsOf(QString const& name, std::arra
     static LineTargets const none;
     unsigned int const generation = uiNamesGeneration();
     if (counts == indexedCounts && generation == uiIndexedGeneration) {
+        // A parameter's lines come together: the name of the line before is tried first.
+        if (pLastTargets && name == lastName && bStillNamed(*pLastTargets, name, nameOf))
+            return *pLastTargets;
         auto const found = nameIndex.constFind(name);
         if (found == nameIndex.constEnd())
             return none;
         // An entry replaced in place keeps the list's length: look before trusting the index.
-        if (bStillNamed(*found, name, nameOf))
+        if (bStillNamed(*found, name, nameOf)) {
+            lastName.setUnicode(name.constData(), name.size());
+            pLastTargets = &*found;
             return *found;
+        }
     }
+    pLastTargets = nullptr;
     nameIndex.clear();
     for (int list = 0; list < 3; ++list) {
         for (int position = 0; position < counts[list]; ++position) {
