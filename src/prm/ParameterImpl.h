@@ -751,27 +751,30 @@ LineRead eReadKeyLine(Parameter<T>& parameter, QString const& line,
 template <class T>
 QString Parameter<T>::indexSuffixString(int index) const
 {
-    static QString const bezierTemplate = QStringLiteral("%1, %2, %3, %4");
     if (index < 0 || index >= keyframes.size())
         return QString();
     KeyframeData<T> const& key = keyframes.at(index);
     IType const record = index < interpolationRecords.size() ? interpolationRecords.at(index) : IType();
     bool const bBezier = record.eType == InterpolationBezier;
-    QString const curve = bBezier ? bezierTemplate.arg(record.dOutTime, 0, 'g', -1)
-                                        .arg(record.dOutValue, 0, 'g', -1)
-                                        .arg(record.dInTime, 0, 'g', -1)
-                                        .arg(record.dInValue, 0, 'g', -1)
-                                  : qstrInterpolationTypeString(record.eType);
-    // Joined piece by piece rather than by markers, so that nothing in a text value is filled in; the
-    // time prints as arg(double) would print it.
+    // Joined piece by piece rather than by markers, so that nothing in a text value is filled in. Every
+    // real prints as QString::arg(double) prints it at its default: six significant digits.
     QString line;
     line.reserve(64);
     line += QLatin1String(bBezier ? "keyframes.append( BezierKey( " : "keyframes.append( Key( ");
-    line += QString::number(static_cast<double>(key.fTime), 'g', 6);
+    NumberText::vAppendShortReal(line, static_cast<double>(key.fTime));
     line += QLatin1String(", ");
-    line += ValueText<T>::qstrWritten(key.tValue);
+    ValueText<T>::vAppendWritten(line, key.tValue);
     line += QLatin1String(", ");
-    line += curve;
+    if (bBezier) {
+        double const handles[] = {record.dOutTime, record.dOutValue, record.dInTime, record.dInValue};
+        for (int i = 0; i < 4; ++i) {
+            if (i > 0)
+                line += QLatin1String(", ");
+            NumberText::vAppendShortReal(line, handles[i]);
+        }
+    } else {
+        line += qstrInterpolationTypeString(record.eType);
+    }
     line += QLatin1String(" ) )");
     return line;
 }
@@ -812,8 +815,21 @@ bool Parameter<T>::bStreamOut(QTextStream& out, QString const& prefix, bool bQua
         out << Qt::endl;
     }
     if (bKeyframed) {
-        for (int i = 0; i < keyframes.size(); ++i)
-            out << linePrefix << indexSuffixString(i) << Qt::endl;
+        // Without a field width nothing pads the pieces, so each key line goes out as one string.
+        bool const bJoin = out.fieldWidth() == 0;
+        QString line;
+        for (int i = 0; i < keyframes.size(); ++i) {
+            if (!bJoin) {
+                out << linePrefix << indexSuffixString(i) << Qt::endl;
+                continue;
+            }
+            line.resize(0);
+            line += linePrefix;
+            line += indexSuffixString(i);
+            line += QLatin1Char('\n');
+            out << line;
+            out.flush();
+        }
     }
     out << linePrefix << "hidden=" << (bHidden ? '1' : '0') << Qt::endl;
     out << linePrefix << "keyframed=" << (bKeyframed ? '1' : '0') << Qt::endl;

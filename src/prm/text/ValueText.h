@@ -134,6 +134,34 @@ float fToFloat(Text const& text)
     return text.toFloat();
 }
 
+/// Writes `value` as `QString::number(value, 'g', 6)` does into `chars` (at least 32 of them) and
+/// returns the count, or -1 for a value it leaves to Qt: zero, NaN, infinities, integers from a million
+/// on, and fractions with at most ten binary digits behind the point. Only those can land exactly half
+/// way between two six-digit texts, where Qt rounds up and the standard library to even; elsewhere both
+/// round correctly, and both print the shorter of the decimal and the exponent forms alike.
+inline int iShortRealChars(double value, char* chars)
+{
+    double const magnitude = std::fabs(value);
+    if (!(magnitude > 0.0) || magnitude == HUGE_VAL)
+        return -1;
+    double const binaryPlaces = value * 1024.0;
+    if (std::floor(value) == value ? magnitude >= 1e6 : std::floor(binaryPlaces) == binaryPlaces)
+        return -1;
+    std::to_chars_result const written = std::to_chars(chars, chars + 32, value, std::chars_format::general, 6);
+    return written.ec == std::errc() ? int(written.ptr - chars) : -1;
+}
+
+/// Appends `QString::number(value, 'g', 6)` to `text`.
+inline void vAppendShortReal(QString& text, double value)
+{
+    char chars[32];
+    int const count = iShortRealChars(value, chars);
+    if (count < 0)
+        text += QString::number(value, 'g', 6);
+    else
+        text += QLatin1String(chars, count);
+}
+
 /// Reads `text` (a QString or a QStringRef) without building a stream when it is a number whose every
 /// reading agrees: the stream's readers and QString's conversions both round correctly in the C locale.
 /// False, `value` untouched, for any other text, which the caller reads through a stream as before.
@@ -233,8 +261,11 @@ struct ValueText : StaticValueText<T> {
     {
         // A fresh stream prints numbers as QString::number does (six significant digits for reals);
         // building the stream would cost more than the rest of a key line.
-        if constexpr (std::is_same<T, double>::value || std::is_same<T, float>::value)
-            return QString::number(static_cast<double>(value), 'g', 6);
+        if constexpr (std::is_same<T, double>::value || std::is_same<T, float>::value) {
+            QString text;
+            NumberText::vAppendShortReal(text, static_cast<double>(value));
+            return text;
+        }
         if constexpr (std::is_same<T, int>::value || std::is_same<T, unsigned int>::value)
             return QString::number(value);
         QString text;
@@ -242,6 +273,15 @@ struct ValueText : StaticValueText<T> {
         StaticValueText<T>::vWrite(out, value);
         out.flush();
         return text;
+    }
+
+    /// Appends `qstrWritten(value)` to `text`.
+    static void vAppendWritten(QString& text, T const& value)
+    {
+        if constexpr (std::is_same<T, double>::value || std::is_same<T, float>::value)
+            NumberText::vAppendShortReal(text, static_cast<double>(value));
+        else
+            text += qstrWritten(value);
     }
 
     /// What `valueString` shows; for `QString` the text without quotes.
