@@ -60,9 +60,26 @@ QString ParameterTextDocument::qstrWrite() const
 
 int ParameterTextDocument::iRead(QString const& text)
 {
-    QString copy(text);
-    QTextStream in(&copy, QIODevice::ReadOnly);
-    return iRead(in);
+    // The lines a QTextStream on the text would give, without its scanning and copying: each ends at
+    // "\n" or "\r\n", a "\r" that ends the text is dropped, and a text ending at a line break has no
+    // empty line behind it.
+    unread.clear();
+    int taken = 0;
+    QChar const* const chars = text.constData();
+    int const size = text.size();
+    QString line;
+    for (int start = 0, number = 1; start < size; ++number) {
+        int const lineBreak = text.indexOf(QLatin1Char('\n'), start);
+        int const next = lineBreak < 0 ? size : lineBreak + 1;
+        int end = lineBreak < 0 ? size : lineBreak;
+        if (end > start && chars[end - 1] == QLatin1Char('\r'))
+            --end;
+        line.setUnicode(chars + start, end - start);
+        vOfferLine(number, line, taken);
+        start = next;
+    }
+    vBindMasters();
+    return taken;
 }
 
 int ParameterTextDocument::iRead(QTextStream& in)
@@ -70,18 +87,22 @@ int ParameterTextDocument::iRead(QTextStream& in)
     unread.clear();
     int taken = 0;
     QString line;
-    for (int number = 1; in.readLineInto(&line); ++number) {
-        if (bBlank(line))
-            continue;
-        if (bReadLine(line)) {
-            ++taken;
-            continue;
-        }
-        unread.append(UnreadLine{number, line});
-        Bsc::LOG_STRING(QStringLiteral("ParameterTextDocument: line %1 not read: '%2'").arg(number).arg(line));
-    }
+    for (int number = 1; in.readLineInto(&line); ++number)
+        vOfferLine(number, line, taken);
     vBindMasters();
     return taken;
+}
+
+void ParameterTextDocument::vOfferLine(int number, QString& line, int& taken)
+{
+    if (bBlank(line))
+        return;
+    if (bReadLine(line)) {
+        ++taken;
+        return;
+    }
+    unread.append(UnreadLine{number, line});
+    Bsc::LOG_STRING(QStringLiteral("ParameterTextDocument: line %1 not read: '%2'").arg(number).arg(line));
 }
 
 bool ParameterTextDocument::bReadLine(QString& line)

@@ -38,6 +38,9 @@ public:
     QVector<UnreadLine> const& unreadLines() const { return unread; }
 
 private:
+    /// Offers line `number` to the set unless it is blank, counting it in `taken` or listing and logging
+    /// it as unread; `line` may be changed meanwhile.
+    void vOfferLine(int number, QString& line, int& taken);
     /// Offers `line` to the set; it may be changed meanwhile and is as it was again when not taken.
     bool bReadLine(QString& line);
     void vBindMasters() const;
