@@ -138,7 +138,7 @@ int iSkipBlanks(QString const& line, int from)
 // pair up around the value as written is split as before.
 void vJoinQuotedValue(QString const& line, int start, KeyframeEntries& entries)
 {
-    if (entries.size() < 2 || !entries.at(1).startsWith(quote))
+    if (entries.size() < 2 || entries.at(1).isEmpty() || entries.at(1).at(0) != quote)
         return;
     bool bLast = false;
     int const comma = iEntryEnd(line, start, bLast);

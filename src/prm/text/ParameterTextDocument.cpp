@@ -7,6 +7,8 @@
 #include <QHash>
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace Prm {
 
 namespace {
@@ -21,13 +23,9 @@ void vCollectParameters(ParameterSet const& set, QVector<ParameterWithoutType*>&
 }
 
 // As trimmed().isEmpty(), without the copy.
-bool bBlank(QString const& line)
+bool bBlank(QChar const* chars, int size)
 {
-    for (QChar const c : line) {
-        if (!c.isSpace())
-            return false;
-    }
-    return true;
+    return std::all_of(chars, chars + size, [](QChar c) { return c.isSpace(); });
 }
 
 // True when the follower already follows the parameter its text names.
@@ -74,8 +72,7 @@ int ParameterTextDocument::iRead(QString const& text)
         int end = lineBreak < 0 ? size : lineBreak;
         if (end > start && chars[end - 1] == QLatin1Char('\r'))
             --end;
-        line.setUnicode(chars + start, end - start);
-        vOfferLine(number, line, taken);
+        vOfferLine(number, chars + start, end - start, line, taken);
         start = next;
     }
     vBindMasters();
@@ -86,37 +83,32 @@ int ParameterTextDocument::iRead(QTextStream& in)
 {
     unread.clear();
     int taken = 0;
+    QString streamLine;
     QString line;
-    for (int number = 1; in.readLineInto(&line); ++number)
-        vOfferLine(number, line, taken);
+    for (int number = 1; in.readLineInto(&streamLine); ++number)
+        vOfferLine(number, streamLine.constData(), streamLine.size(), line, taken);
     vBindMasters();
     return taken;
 }
 
-void ParameterTextDocument::vOfferLine(int number, QString& line, int& taken)
+void ParameterTextDocument::vOfferLine(int number, QChar const* chars, int size, QString& line, int& taken)
 {
-    if (bBlank(line))
+    if (bBlank(chars, size))
         return;
-    if (bReadLine(line)) {
+    QString const& name = set.qstrScriptName();
+    int const nameSize = name.size();
+    // The root's name comes off when the line carries it; a line without it goes to the set whole.
+    bool const bQualified = nameSize > 0 && size > nameSize && chars[nameSize] == QLatin1Char('.')
+                            && std::equal(chars, chars + nameSize, name.constData());
+    int const skipped = bQualified ? nameSize + 1 : 0;
+    line.setUnicode(chars + skipped, size - skipped);
+    if (set.bStreamIn(line)) {
         ++taken;
         return;
     }
+    line.setUnicode(chars, size);
     unread.append(UnreadLine{number, line});
     Bsc::LOG_STRING(QStringLiteral("ParameterTextDocument: line %1 not read: '%2'").arg(number).arg(line));
-}
-
-bool ParameterTextDocument::bReadLine(QString& line)
-{
-    QString const& name = set.qstrScriptName();
-    if (name.isEmpty() || line.size() <= name.size() || !line.startsWith(name)
-        || line.at(name.size()) != QLatin1Char('.'))
-        return set.bStreamIn(line);
-    // The root's name comes off in place rather than in a copy; a line not taken gets it back.
-    line.remove(0, name.size() + 1);
-    if (set.bStreamIn(line))
-        return true;
-    line.prepend(name + QLatin1Char('.'));
-    return false;
 }
 
 void ParameterTextDocument::vBindMasters() const
