@@ -161,7 +161,12 @@ void vJoinQuotedValue(QString const& line, int start, KeyframeEntries& entries)
 
 TextField eTextField(QString const& line)
 {
+    // A word whose first letter differs from an ASCII first character cannot match; any other first
+    // character may fold onto a letter, so then every word is tried.
+    ushort const first = line.isEmpty() ? 0x80 : line.at(0).unicode();
     for (Word const& word : words) {
+        if (first < 0x80 && uAsciiLower(first) != uAsciiLower(ushort(word.text.at(0).unicode())))
+            continue;
         int const match = iAsciiPrefix(line, word.text);
         if (match == 1 || (match < 0 && line.startsWith(word.text, Qt::CaseInsensitive)))
             return word.field;
@@ -209,7 +214,8 @@ bool bFlagOfLine(QString const& line)
 
 void vKeyframeDeclarationEntries(QString const& line, KeyframeEntries& entries)
 {
-    entries.clear();
+    if (!entries.isEmpty())
+        entries.clear();
     int const start = iArgumentStart(line);
     if (start < 0)
         return;

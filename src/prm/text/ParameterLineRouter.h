@@ -3,6 +3,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringView>
 #include <QVector>
 #include <array>
 
@@ -51,10 +52,10 @@ public:
     int iChooseSet(QString const& name, int candidateCount, int position, TextField field);
 
     /// The targets of `name` among lists of `counts` entries, where `nameOf(list, position)` gives an
-    /// entry's name (null for an entry that is gone). The reference lives until the next call. `name`
-    /// may borrow its characters: nothing keeps it.
+    /// entry's name (null for an entry that is gone). The reference lives until the next call. Nothing
+    /// keeps `name`.
     template <class NameOf>
-    LineTargets const& targetsOf(QString const& name, std::array<int, 3> const& counts, NameOf nameOf);
+    LineTargets const& targetsOf(QStringView name, std::array<int, 3> const& counts, NameOf nameOf);
 
     /// Marks every name index of every set out of date. Thread-safe.
     static void vNamesChanged();
@@ -62,7 +63,7 @@ public:
 private:
     static unsigned int uiNamesGeneration();
     template <class NameOf>
-    bool bStillNamed(LineTargets const& targets, QString const& name, NameOf nameOf) const;
+    bool bStillNamed(LineTargets const& targets, QStringView name, NameOf nameOf) const;
 
     struct Cursor {
         int iCandidate = 0;
@@ -84,13 +85,13 @@ private:
 };
 
 template <class NameOf>
-bool ParameterLineRouter::bStillNamed(LineTargets const& targets, QString const& name, NameOf nameOf) const
+bool ParameterLineRouter::bStillNamed(LineTargets const& targets, QStringView name, NameOf nameOf) const
 {
     QVector<int> const* lists[3] = {&targets.parameters, &targets.basicParameters, &targets.childSets};
     for (int list = 0; list < 3; ++list) {
         for (int position : *lists[list]) {
             QString const* current = nameOf(list, position);
-            if (!current || *current != name)
+            if (!current || QStringView(*current) != name)
                 return false;
         }
     }
@@ -98,21 +99,21 @@ bool ParameterLineRouter::bStillNamed(LineTargets const& targets, QString const&
 }
 
 template <class NameOf>
-LineTargets const& ParameterLineRouter::targetsOf(QString const& name, std::array<int, 3> const& counts,
+LineTargets const& ParameterLineRouter::targetsOf(QStringView name, std::array<int, 3> const& counts,
                                                   NameOf nameOf)
 {
     static LineTargets const none;
     unsigned int const generation = uiNamesGeneration();
     if (counts == indexedCounts && generation == uiIndexedGeneration) {
         // A parameter's lines come together: the name of the line before is tried first.
-        if (pLastTargets && name == lastName && bStillNamed(*pLastTargets, name, nameOf))
+        if (pLastTargets && name == QStringView(lastName) && bStillNamed(*pLastTargets, name, nameOf))
             return *pLastTargets;
-        auto const found = nameIndex.constFind(name);
+        auto const found = nameIndex.constFind(name.toString());
         if (found == nameIndex.constEnd())
             return none;
         // An entry replaced in place keeps the list's length: look before trusting the index.
         if (bStillNamed(*found, name, nameOf)) {
-            lastName.setUnicode(name.constData(), name.size());
+            lastName.setUnicode(name.data(), int(name.size()));
             pLastTargets = &*found;
             return *found;
         }
@@ -132,7 +133,7 @@ LineTargets const& ParameterLineRouter::targetsOf(QString const& name, std::arra
     }
     indexedCounts = counts;
     uiIndexedGeneration = generation;
-    auto const found = nameIndex.constFind(name);
+    auto const found = nameIndex.constFind(name.toString());
     return found == nameIndex.constEnd() ? none : *found;
 }
 
