@@ -1,5 +1,7 @@
 #include "prm/text/ParameterLine.h"
 
+#include <algorithm>
+
 namespace Prm {
 
 namespace {
@@ -27,11 +29,13 @@ int iAsciiPrefix(QString const& line, QLatin1String word)
 {
     if (line.size() < word.size())
         return 0;
+    QChar const* const chars = line.constData();
     for (int i = 0; i < word.size(); ++i) {
-        ushort const c = line.at(i).unicode();
+        ushort const c = chars[i].unicode();
         if (c >= 0x80)
             return -1;
-        if (uAsciiLower(c) != uAsciiLower(ushort(word.at(i).unicode())))
+        // The words are letters only: setting bit 5 lowers exactly the two cases of each.
+        if ((c | 0x20) != (ushort(word.at(i).unicode()) | 0x20))
             return 0;
     }
     return 1;
@@ -47,7 +51,19 @@ int iArgumentStart(QString const& line)
     QChar const* const chars = line.constData();
     bool bQuoted = false;
     int start = -1;
-    for (int i = 0, n = line.size(); i < n; ++i) {
+    int i = 0;
+    // The opening the writer puts on every key line holds no quote or comma and its last parenthesis
+    // ends it: the scan may go on behind it.
+    for (QLatin1String const opening : {QLatin1String("keyframes.append( Key( "),
+                                        QLatin1String("keyframes.append( BezierKey( ")}) {
+        if (line.size() >= opening.size()
+            && std::equal(opening.begin(), opening.end(), chars, [](char a, QChar b) { return b == QLatin1Char(a); })) {
+            i = opening.size();
+            start = i;
+            break;
+        }
+    }
+    for (int n = line.size(); i < n; ++i) {
         ushort const c = chars[i].unicode();
         if (c > ',')
             continue;

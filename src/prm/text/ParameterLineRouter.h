@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringView>
 #include <QVector>
+#include <algorithm>
 #include <array>
 
 namespace Prm {
@@ -62,6 +63,11 @@ public:
 
 private:
     static unsigned int uiNamesGeneration();
+    /// Exact equality, inline: names are short and compared on every line.
+    static bool bSameText(QStringView a, QStringView b)
+    {
+        return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin());
+    }
     template <class NameOf>
     bool bStillNamed(LineTargets const& targets, QStringView name, NameOf nameOf) const;
 
@@ -91,7 +97,7 @@ bool ParameterLineRouter::bStillNamed(LineTargets const& targets, QStringView na
     for (int list = 0; list < 3; ++list) {
         for (int position : *lists[list]) {
             QString const* current = nameOf(list, position);
-            if (!current || QStringView(*current) != name)
+            if (!current || !bSameText(*current, name))
                 return false;
         }
     }
@@ -106,7 +112,7 @@ LineTargets const& ParameterLineRouter::targetsOf(QStringView name, std::array<i
     unsigned int const generation = uiNamesGeneration();
     if (counts == indexedCounts && generation == uiIndexedGeneration) {
         // A parameter's lines come together: the name of the line before is tried first.
-        if (pLastTargets && name == QStringView(lastName) && bStillNamed(*pLastTargets, name, nameOf))
+        if (pLastTargets && bSameText(lastName, name) && bStillNamed(*pLastTargets, name, nameOf))
             return *pLastTargets;
         auto const found = nameIndex.constFind(name.toString());
         if (found == nameIndex.constEnd())
