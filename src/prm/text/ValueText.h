@@ -14,32 +14,77 @@ namespace Prm {
 
 namespace NumberText {
 
-/// Whether `text` as a whole is a plain decimal number: an optional minus, digits, optionally a point and
-/// digits, optionally `e` or `E`, a sign and one or two digits.
+/// Reads `text` when it is as a whole a plain decimal number: an optional minus, digits, optionally a
+/// point and digits, optionally `e` or `E`, a sign and one or two digits, 40 characters at most. The
+/// value is correctly rounded, as QString's conversion and the stream's reader round it, without their
+/// heap copy and locale checks. False, `value` untouched, for any other text.
 template <class Text>
-bool bPlainReal(Text const& text)
+bool bPlainValue(Text const& text, double& value)
 {
     int const n = text.size();
-    int i = (n > 0 && text.at(0) == QLatin1Char('-')) ? 1 : 0;
-    auto const digits = [&text, n, &i] {
+    if (n == 0 || n > 40)
+        return false;
+    QChar const* const chars = text.unicode();
+    char ascii[48];
+    // Digits as an integer and the power of ten that scales them; when both are exact in a double, one
+    // multiplication or division rounds correctly (most texts that files hold end there).
+    quint64 digits = 0;
+    int significant = 0;
+    int scale = 0;
+    int i = 0;
+    auto const digitRun = [&](bool bFraction) {
         int const start = i;
-        while (i < n && text.at(i) >= QLatin1Char('0') && text.at(i) <= QLatin1Char('9'))
-            ++i;
+        for (; i < n && chars[i].unicode() >= '0' && chars[i].unicode() <= '9'; ++i) {
+            int const digit = chars[i].unicode() - '0';
+            ascii[i] = static_cast<char>('0' + digit);
+            if (significant < 19) {
+                digits = digits * 10 + quint64(digit);
+                significant += digits != 0 ? 1 : 0;
+                scale -= bFraction ? 1 : 0;
+            } else {
+                scale += bFraction ? 0 : 1;
+            }
+        }
         return i - start;
     };
-    if (n > 40 || digits() == 0)
+    bool const bNegative = chars[0] == QLatin1Char('-');
+    if (bNegative)
+        ascii[i++] = '-';
+    if (digitRun(false) == 0)
         return false;
-    if (i < n && text.at(i) == QLatin1Char('.') && (++i, digits() == 0))
-        return false;
-    if (i < n && (text.at(i) == QLatin1Char('e') || text.at(i) == QLatin1Char('E'))) {
-        ++i;
-        if (i < n && (text.at(i) == QLatin1Char('+') || text.at(i) == QLatin1Char('-')))
-            ++i;
-        int const exponentDigits = digits();
-        if (exponentDigits == 0 || exponentDigits > 2)
+    if (i < n && chars[i] == QLatin1Char('.')) {
+        ascii[i++] = '.';
+        if (digitRun(true) == 0)
             return false;
     }
-    return i == n;
+    if (i < n && (chars[i] == QLatin1Char('e') || chars[i] == QLatin1Char('E'))) {
+        ascii[i++] = 'e';
+        bool const bNegativeExponent = i < n && chars[i] == QLatin1Char('-');
+        if (i < n && (bNegativeExponent || chars[i] == QLatin1Char('+')))
+            ascii[i++] = bNegativeExponent ? '-' : '+';
+        int exponent = 0;
+        int const start = i;
+        for (; i < n && i - start < 3 && chars[i].unicode() >= '0' && chars[i].unicode() <= '9'; ++i) {
+            ascii[i] = static_cast<char>(chars[i].unicode());
+            exponent = exponent * 10 + (chars[i].unicode() - '0');
+        }
+        if (i == start || i - start > 2)
+            return false;
+        scale += bNegativeExponent ? -exponent : exponent;
+    }
+    if (i != n)
+        return false;
+    static double const powers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                    1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+    if (digits <= (quint64(1) << 53) && scale >= -22 && scale <= 22) {
+        double const magnitude = double(digits);
+        double const scaled = scale < 0 ? magnitude / powers[-scale] : magnitude * powers[scale];
+        value = bNegative ? -scaled : scaled;
+    } else {
+        value = 0.0;
+        std::from_chars(ascii, ascii + n, value);
+    }
+    return true;
 }
 
 /// A decimal integer without a leading zero (the stream would read that as octal), of at most nine
@@ -58,66 +103,12 @@ bool bPlainInteger(Text const& text, bool bSigned)
     return true;
 }
 
-/// The value of a text that `bPlainReal` accepts, correctly rounded as QString's conversion rounds it,
-/// without that conversion's heap copy and locale checks: the text is at most 40 ASCII characters.
-template <class Text>
-double dPlainValue(Text const& text)
-{
-    char ascii[48];
-    int const n = qMin(text.size(), 40);
-    QChar const* const chars = text.unicode();
-    // Digits as an integer and the power of ten that scales them; when both are exact in a double, one
-    // multiplication or division rounds correctly (most texts that files hold end here).
-    quint64 digits = 0;
-    int significant = 0;
-    int scale = 0;
-    bool bFraction = false;
-    int i = 0;
-    for (; i < n; ++i) {
-        ushort const c = chars[i].unicode();
-        ascii[i] = static_cast<char>(c);
-        if (c == '.') {
-            bFraction = true;
-        } else if (c >= '0' && c <= '9') {
-            if (significant < 19) {
-                digits = digits * 10 + (c - '0');
-                significant += digits != 0 ? 1 : 0;
-                scale -= bFraction ? 1 : 0;
-            } else {
-                scale += bFraction ? 0 : 1;
-            }
-        } else if (c == 'e' || c == 'E') {
-            break;
-        }
-    }
-    int exponent = 0;
-    bool bNegativeExponent = false;
-    for (int k = i; k < n; ++k) {
-        ushort const c = chars[k].unicode();
-        ascii[k] = static_cast<char>(c);
-        if (c == '-')
-            bNegativeExponent = true;
-        else if (c >= '0' && c <= '9')
-            exponent = exponent * 10 + (c - '0');
-    }
-    scale += bNegativeExponent ? -exponent : exponent;
-    static double const powers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-                                    1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-    if (digits <= (quint64(1) << 53) && scale >= -22 && scale <= 22) {
-        double const magnitude = double(digits);
-        double const value = scale < 0 ? magnitude / powers[-scale] : magnitude * powers[scale];
-        return chars[0].unicode() == '-' ? -value : value;
-    }
-    double value = 0.0;
-    std::from_chars(ascii, ascii + n, value);
-    return value;
-}
-
 /// `text.toDouble()`, faster for plain decimal numbers.
 template <class Text>
 double dToDouble(Text const& text)
 {
-    return bPlainReal(text) ? dPlainValue(text) : text.toDouble();
+    double value = 0.0;
+    return bPlainValue(text, value) ? value : text.toDouble();
 }
 
 /// `text.toFloat()`, faster for plain decimal numbers whose double lies in the normal float range or is
@@ -125,8 +116,8 @@ double dToDouble(Text const& text)
 template <class Text>
 float fToFloat(Text const& text)
 {
-    if (bPlainReal(text)) {
-        double const wide = dPlainValue(text);
+    double wide = 0.0;
+    if (bPlainValue(text, wide)) {
         double const magnitude = std::fabs(wide);
         if (wide == 0.0 || (magnitude >= double(FLT_MIN) && magnitude <= double(FLT_MAX)))
             return static_cast<float>(wide);
@@ -168,10 +159,7 @@ inline void vAppendShortReal(QString& text, double value)
 template <class Text>
 bool bReadPlain(Text const& text, double& value)
 {
-    if (!bPlainReal(text))
-        return false;
-    value = dPlainValue(text);
-    return true;
+    return bPlainValue(text, value);
 }
 
 /// As the stream: the double, narrowed; only within the float range.
