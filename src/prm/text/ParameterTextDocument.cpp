@@ -108,7 +108,15 @@ void ParameterTextDocument::vOfferLine(int number, QChar const* chars, int size,
     }
     line.setUnicode(chars, size);
     unread.append(UnreadLine{number, line});
-    Bsc::LOG_STRING(QStringLiteral("ParameterTextDocument: line %1 not read: '%2'").arg(number).arg(line));
+    // "ParameterTextDocument: line %1 not read: '%2'", joined without the markers' parsing.
+    QString message;
+    message.reserve(size + 48);
+    message += QLatin1String("ParameterTextDocument: line ");
+    message += QString::number(number);
+    message += QLatin1String(" not read: '");
+    message += line;
+    message += QLatin1Char('\'');
+    Bsc::LOG_STRING(message);
 }
 
 void ParameterTextDocument::vBindMasters() const
