@@ -5,6 +5,7 @@
 #include <QString>
 #include <QTextStream>
 #include <QVariant>
+#include <algorithm>
 #include <cfloat>
 #include <charconv>
 #include <cmath>
@@ -126,20 +127,83 @@ float fToFloat(Text const& text)
 }
 
 /// Writes `value` as `QString::number(value, 'g', 6)` does into `chars` (at least 32 of them) and
-/// returns the count, or -1 for a value it leaves to Qt: zero, NaN, infinities, integers from a million
-/// on, and fractions with at most ten binary digits behind the point. Only those can land exactly half
-/// way between two six-digit texts, where Qt rounds up and the standard library to even; elsewhere both
-/// round correctly, and both print the shorter of the decimal and the exponent forms alike.
+/// returns the count, or -1 for a value it leaves to Qt: zero, NaN, the infinities, subnormals (too few
+/// binary places for what follows), and a value whose shortest text has seven digits ending in 5, which
+/// may lie exactly half way between two six-digit texts (Qt rounds those up).
+///
+/// Elsewhere the six digits come from the shortest text that reads back as `value`: that text lies
+/// within half a unit of the last binary place of the value, far closer than the six-digit steps, so
+/// both round to the same six digits unless a half way point lies between them, which only the case
+/// above allows.
 inline int iShortRealChars(double value, char* chars)
 {
-    double const magnitude = std::fabs(value);
-    if (!(magnitude > 0.0) || magnitude == HUGE_VAL)
+    if (!(std::fabs(value) >= DBL_MIN) || std::isinf(value))
         return -1;
-    double const binaryPlaces = value * 1024.0;
-    if (std::floor(value) == value ? magnitude >= 1e6 : std::floor(binaryPlaces) == binaryPlaces)
+    char shortest[40];
+    std::to_chars_result const written =
+        std::to_chars(shortest, shortest + sizeof(shortest), value, std::chars_format::scientific);
+    if (written.ec != std::errc())
         return -1;
-    std::to_chars_result const written = std::to_chars(chars, chars + 32, value, std::chars_format::general, 6);
-    return written.ec == std::errc() ? int(written.ptr - chars) : -1;
+    // "-d.ddde-XX": the digits and the power of ten of the first one.
+    char const* p = shortest;
+    bool const bNegative = *p == '-';
+    p += bNegative ? 1 : 0;
+    char digits[24];
+    int count = 0;
+    for (; *p != 'e'; ++p) {
+        if (*p != '.')
+            digits[count++] = *p;
+    }
+    int exponent = 0;
+    std::from_chars(p + 1 + (p[1] == '+' ? 1 : 0), written.ptr, exponent);
+    if (count == 7 && digits[6] == '5')
+        return -1;
+    if (count > 6) {
+        bool const bUp = digits[6] > '5' || (digits[6] == '5' && count > 7);
+        count = 6;
+        for (int i = 5; bUp && i >= 0; --i) {
+            if (digits[i] != '9') {
+                ++digits[i];
+                break;
+            }
+            digits[i] = '0';
+            if (i == 0) {
+                digits[0] = '1';
+                ++exponent;
+            }
+        }
+    }
+    while (count > 1 && digits[count - 1] == '0')
+        --count;
+    char* out = chars;
+    if (bNegative)
+        *out++ = '-';
+    if (exponent < -4 || exponent > 5) {
+        *out++ = digits[0];
+        if (count > 1) {
+            *out++ = '.';
+            out = std::copy(digits + 1, digits + count, out);
+        }
+        *out++ = 'e';
+        *out++ = exponent < 0 ? '-' : '+';
+        int const magnitude = exponent < 0 ? -exponent : exponent;
+        if (magnitude < 10)
+            *out++ = '0';
+        out = std::to_chars(out, chars + 32, magnitude).ptr;
+    } else if (exponent < 0) {
+        *out++ = '0';
+        *out++ = '.';
+        out = std::fill_n(out, -exponent - 1, '0');
+        out = std::copy(digits, digits + count, out);
+    } else {
+        for (int i = 0; i <= exponent; ++i)
+            *out++ = i < count ? digits[i] : '0';
+        if (count > exponent + 1) {
+            *out++ = '.';
+            out = std::copy(digits + exponent + 1, digits + count, out);
+        }
+    }
+    return int(out - chars);
 }
 
 /// Appends `QString::number(value, 'g', 6)` to `text`.
