@@ -1,6 +1,6 @@
 #include "prm/text/ParameterLine.h"
 
-#include <algorithm>
+#include <cstring>
 
 namespace Prm {
 
@@ -41,6 +41,13 @@ int iAsciiPrefix(QString const& line, QLatin1String word)
     return 1;
 }
 
+// Case-sensitive, without Qt's comparison set-up.
+bool bStartsExactly(QString const& line, QString const& start)
+{
+    return line.size() >= start.size()
+           && std::memcmp(line.constData(), start.constData(), size_t(start.size()) * sizeof(QChar)) == 0;
+}
+
 QLatin1Char const quote('"');
 ushort const quoteCode = '"';
 
@@ -54,10 +61,10 @@ int iArgumentStart(QString const& line)
     int i = 0;
     // The opening the writer puts on every key line holds no quote or comma and its last parenthesis
     // ends it: the scan may go on behind it.
-    for (QLatin1String const opening : {QLatin1String("keyframes.append( Key( "),
-                                        QLatin1String("keyframes.append( BezierKey( ")}) {
-        if (line.size() >= opening.size()
-            && std::equal(opening.begin(), opening.end(), chars, [](char a, QChar b) { return b == QLatin1Char(a); })) {
+    static QString const openings[] = {QStringLiteral("keyframes.append( Key( "),
+                                       QStringLiteral("keyframes.append( BezierKey( ")};
+    for (QString const& opening : openings) {
+        if (bStartsExactly(line, opening)) {
             i = opening.size();
             start = i;
             break;
@@ -179,6 +186,10 @@ TextField eTextField(QString const& line)
 {
     // A word whose first letter differs from an ASCII first character cannot match; any other first
     // character may fold onto a letter, so then every word is tried.
+    // The writer's own spelling of the first word decides at once.
+    static QString const keyframes = QStringLiteral("keyframes");
+    if (bStartsExactly(line, keyframes))
+        return TextField::Keyframes;
     ushort const first = line.isEmpty() ? 0x80 : line.at(0).unicode();
     for (Word const& word : words) {
         if (first < 0x80 && uAsciiLower(first) != uAsciiLower(ushort(word.text.at(0).unicode())))

@@ -7,6 +7,7 @@
 #include <QVector>
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace Prm {
 
@@ -66,7 +67,7 @@ private:
     /// Exact equality, inline: names are short and compared on every line.
     static bool bSameText(QStringView a, QStringView b)
     {
-        return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin());
+        return a.size() == b.size() && std::memcmp(a.data(), b.data(), size_t(a.size()) * sizeof(QChar)) == 0;
     }
     template <class NameOf>
     bool bStillNamed(LineTargets const& targets, QStringView name, NameOf nameOf) const;

@@ -8,6 +8,7 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <cstring>
 
 namespace Prm {
 
@@ -99,7 +100,7 @@ void ParameterTextDocument::vOfferLine(int number, QChar const* chars, int size,
     int const nameSize = name.size();
     // The root's name comes off when the line carries it; a line without it goes to the set whole.
     bool const bQualified = nameSize > 0 && size > nameSize && chars[nameSize] == QLatin1Char('.')
-                            && std::equal(chars, chars + nameSize, name.constData());
+                            && std::memcmp(chars, name.constData(), size_t(nameSize) * sizeof(QChar)) == 0;
     int const skipped = bQualified ? nameSize + 1 : 0;
     line.setUnicode(chars + skipped, size - skipped);
     if (set.bStreamIn(line)) {
