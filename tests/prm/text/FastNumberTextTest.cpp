@@ -89,5 +89,7 @@ TEST(FastNumberText, WritesAsQtWrites)
         QString fast = QStringLiteral("x");
         NumberText::vAppendShortReal(fast, value);
         EXPECT_EQ(fast.toStdString(), "x" + QString::number(value, 'g', 6).toStdString()) << value;
+        // Bezier handles were filled in by arg() at its default precision: the same text.
+        EXPECT_EQ(QStringLiteral("%1").arg(value, 0, 'g', -1), QString::number(value, 'g', 6)) << value;
     }
 }
