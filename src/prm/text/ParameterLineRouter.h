@@ -85,6 +85,8 @@ private:
     QHash<QString, LineTargets> nameIndex;
     // The entry of `nameIndex` found last and its name (a copy, kept for its capacity); null when none.
     QString lastName;
+    // The name being looked up, as the index's key type; kept for its capacity.
+    QString lookupName;
     LineTargets const* pLastTargets = nullptr;
     std::array<int, 3> indexedCounts = {{-1, -1, -1}};
     unsigned int uiIndexedGeneration = 0;
@@ -115,7 +117,8 @@ LineTargets const& ParameterLineRouter::targetsOf(QStringView name, std::array<i
         // A parameter's lines come together: the name of the line before is tried first.
         if (pLastTargets && bSameText(lastName, name) && bStillNamed(*pLastTargets, name, nameOf))
             return *pLastTargets;
-        auto const found = nameIndex.constFind(name.toString());
+        lookupName.setUnicode(name.data(), int(name.size()));
+        auto const found = nameIndex.constFind(lookupName);
         if (found == nameIndex.constEnd())
             return none;
         // An entry replaced in place keeps the list's length: look before trusting the index.
@@ -140,7 +143,8 @@ LineTargets const& ParameterLineRouter::targetsOf(QStringView name, std::array<i
     }
     indexedCounts = counts;
     uiIndexedGeneration = generation;
-    auto const found = nameIndex.constFind(name.toString());
+    lookupName.setUnicode(name.data(), int(name.size()));
+    auto const found = nameIndex.constFind(lookupName);
     return found == nameIndex.constEnd() ? none : *found;
 }
 

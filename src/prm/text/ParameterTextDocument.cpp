@@ -8,6 +8,7 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <charconv>
 #include <cstring>
 
 namespace Prm {
@@ -110,10 +111,12 @@ void ParameterTextDocument::vOfferLine(int number, QChar const* chars, int size,
     line.setUnicode(chars, size);
     unread.append(UnreadLine{number, line});
     // "ParameterTextDocument: line %1 not read: '%2'", joined without the markers' parsing.
+    char digits[16];
+    int const digitCount = int(std::to_chars(digits, digits + sizeof(digits), number).ptr - digits);
     QString message;
     message.reserve(size + 48);
     message += QLatin1String("ParameterTextDocument: line ");
-    message += QString::number(number);
+    message += QLatin1String(digits, digitCount);
     message += QLatin1String(" not read: '");
     message += line;
     message += QLatin1Char('\'');
