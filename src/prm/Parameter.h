@@ -131,6 +131,7 @@ protected:
     /// The same, looking at the keys (once per change of them) when not known.
     bool bCheckKeysOrdered();
     /// With ordered keys: the index of the first key not before `time` (not NaN), the key count for none.
+    /// Tries the last key and the keys at and behind `iKeyHint` before halving.
     int iOrderedLowerBound(float time) const;
     /// Index of the first key later than `time`, or -1.
     int iNextKeyIndex(float time) const;
@@ -159,6 +160,9 @@ protected:
     /// -1. Lets an append behind the last key and a look-up by time skip the scan of every key; every
     /// change of `keyframes` other than such an append resets it.
     int iOrderedKeys;
+    /// The index of the key that `vSetValue` set last (possibly gone since): where an ordered look-up
+    /// tries first. A hint only, checked before use.
+    int iKeyHint;
 };
 
 template <class T>
@@ -172,7 +176,8 @@ Parameter<T>::Parameter()
       eExtrapolationAfter(ExtrapolationUnset),
       eDefaultInterpolation(InterpolationUnset),
       bStreamingIn(false),
-      iOrderedKeys(-1)
+      iOrderedKeys(-1),
+      iKeyHint(-1)
 {
     displayName = QStringLiteral("Not Set");
 }

@@ -42,7 +42,8 @@ Parameter<T>::Parameter(bool bKeyframedIn, char const* name)
       eExtrapolationAfter(ExtrapolationUnset),
       eDefaultInterpolation(InterpolationUnset),
       bStreamingIn(false),
-      iOrderedKeys(-1)
+      iOrderedKeys(-1),
+      iKeyHint(-1)
 {
     displayName = QString::fromUtf8(name);
     scriptName = QString::fromLatin1(name);
@@ -59,7 +60,8 @@ Parameter<T>::Parameter(bool bKeyframedIn, char const* name, T const& value, Int
       eExtrapolationAfter(extrapolation),
       eDefaultInterpolation(interpolation),
       bStreamingIn(false),
-      iOrderedKeys(-1)
+      iOrderedKeys(-1),
+      iKeyHint(-1)
 {
     displayName = QCoreApplication::translate("Parameter", name);
     scriptName = QString::fromLatin1(name);
@@ -77,7 +79,8 @@ Parameter<T>::Parameter(Parameter const& other)
       keyframes(other.keyframes),
       interpolationRecords(other.interpolationRecords),
       bStreamingIn(false),
-      iOrderedKeys(-1)
+      iOrderedKeys(-1),
+      iKeyHint(-1)
 {
     displayName = other.displayName;
     scriptName = other.scriptName;
@@ -141,9 +144,17 @@ int Parameter<T>::iOrderedLowerBound(float time) const
 {
     KeyframeData<T> const* const keys = keyframes.constData();
     int const n = keyframes.size();
-    // A reader's keys mostly land behind the last one.
+    // A reader's keys land behind the last one, or just behind the one it set before when the same
+    // text is read again.
     if (n == 0 || keys[n - 1].fTime < time)
         return n;
+    if (keys[n - 1].fTime == time)
+        return n - 1;
+    int const hint = iKeyHint;
+    if (hint >= 0 && hint < n && keys[hint].fTime == time)
+        return hint;
+    if (hint >= 0 && hint + 1 < n && keys[hint + 1].fTime == time)
+        return hint + 1;
     auto const before = [](KeyframeData<T> const& key, float t) { return key.fTime < t; };
     return int(std::lower_bound(keys, keys + n, time, before) - keys);
 }
@@ -299,6 +310,7 @@ int Parameter<T>::vSetValue(T const& newValue, float time)
     }
     if (index >= 0) {
         keyframes[index].tValue = newValue;
+        iKeyHint = index;
         vRaise(ParameterChange::ValueChanged, static_cast<unsigned int>(index));
         return index;
     }
@@ -307,6 +319,7 @@ int Parameter<T>::vSetValue(T const& newValue, float time)
     index = iInsertKey(KeyframeData<T>{time, newValue}, next, kind);
     // A key that is not at NaN keeps ascending keys ascending.
     iOrderedKeys = (bOrdered || count == 0) && time == time ? keyframes.size() : -1;
+    iKeyHint = index;
     vRaise(ParameterChange::KeyframeAdded, static_cast<unsigned int>(index));
     vRaise(ParameterChange::ValueChanged, static_cast<unsigned int>(index));
     return index;
