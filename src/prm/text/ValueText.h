@@ -126,6 +126,48 @@ float fToFloat(Text const& text)
     return text.toFloat();
 }
 
+/// The decimal form of `value` between 1e-4 and 1e6 when a decimal of at most six significant digits
+/// reads back as `value` (whole frames, most hand-typed numbers): no other six-digit decimal lies that
+/// close, so it is the text Qt prints. Found by scaling with exact powers of ten and checking the way
+/// back, which divides two exact numbers and so rounds as reading does. Returns the count written to
+/// `chars`, or 0 when there is no such decimal.
+inline int iShortDecimalChars(double value, char* chars)
+{
+    static double const powers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
+    double const magnitude = std::fabs(value);
+    if (!(magnitude >= powers[0] / powers[4]) || magnitude >= powers[6])
+        return 0;
+    // The power of ten of the first digit, from -4 to 5; the decimal has at most 5 - exponent places.
+    int exponent = -4;
+    while (exponent < 5 && magnitude >= (exponent + 1 >= 0 ? powers[exponent + 1] : 1.0 / powers[-exponent - 1]))
+        ++exponent;
+    for (int places = exponent < 0 ? -exponent : 0; places <= 5 - exponent; ++places) {
+        double const scaled = std::nearbyint(magnitude * powers[places]);
+        if (scaled / powers[places] != magnitude)
+            continue;
+        char digits[16];
+        int const count = int(std::to_chars(digits, digits + sizeof(digits), quint64(scaled)).ptr - digits);
+        char* out = chars;
+        if (value < 0)
+            *out++ = '-';
+        int const whole = count - places;
+        if (whole <= 0) {
+            *out++ = '0';
+            *out++ = '.';
+            out = std::fill_n(out, -whole, '0');
+            out = std::copy(digits, digits + count, out);
+        } else {
+            out = std::copy(digits, digits + whole, out);
+            if (places > 0) {
+                *out++ = '.';
+                out = std::copy(digits + whole, digits + count, out);
+            }
+        }
+        return int(out - chars);
+    }
+    return 0;
+}
+
 /// Writes `value` as `QString::number(value, 'g', 6)` does into `chars` (at least 32 of them) and
 /// returns the count, or -1 for a value it leaves to Qt: zero, NaN, the infinities, subnormals (too few
 /// binary places for what follows), and a value whose shortest text has seven digits ending in 5, which
@@ -139,6 +181,9 @@ inline int iShortRealChars(double value, char* chars)
 {
     if (!(std::fabs(value) >= DBL_MIN) || std::isinf(value))
         return -1;
+    int const decimal = iShortDecimalChars(value, chars);
+    if (decimal > 0)
+        return decimal;
     char shortest[40];
     std::to_chars_result const written =
         std::to_chars(shortest, shortest + sizeof(shortest), value, std::chars_format::scientific);
