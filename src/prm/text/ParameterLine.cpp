@@ -59,14 +59,14 @@ int iArgumentStart(QString const& line)
     bool bQuoted = false;
     int start = -1;
     int i = 0;
-    // The opening the writer puts on every key line holds no quote or comma and its last parenthesis
-    // ends it: the scan may go on behind it.
+    // The opening the writer puts on every key line holds no quote or comma and ends in its last
+    // parenthesis and a blank: the scan may go on behind it.
     static QString const openings[] = {QStringLiteral("keyframes.append( Key( "),
                                        QStringLiteral("keyframes.append( BezierKey( ")};
     for (QString const& opening : openings) {
         if (bStartsExactly(line, opening)) {
             i = opening.size();
-            start = i;
+            start = i - 1;
             break;
         }
     }
@@ -184,12 +184,12 @@ void vJoinQuotedValue(QString const& line, int start, KeyframeEntries& entries)
 
 TextField eTextField(QString const& line)
 {
-    // A word whose first letter differs from an ASCII first character cannot match; any other first
-    // character may fold onto a letter, so then every word is tried.
     // The writer's own spelling of the first word decides at once.
     static QString const keyframes = QStringLiteral("keyframes");
     if (bStartsExactly(line, keyframes))
         return TextField::Keyframes;
+    // A word whose first letter differs from an ASCII first character cannot match; any other first
+    // character may fold onto a letter, so then every word is tried.
     ushort const first = line.isEmpty() ? 0x80 : line.at(0).unicode();
     for (Word const& word : words) {
         if (first < 0x80 && uAsciiLower(first) != uAsciiLower(ushort(word.text.at(0).unicode())))
