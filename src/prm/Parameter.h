@@ -126,6 +126,13 @@ public:
 protected:
     /// Index of the first key with exactly this time, or -1.
     int iKeyIndex(float time) const;
+    /// Whether the keys are known to be in strictly ascending time, none at NaN (`iOrderedKeys`).
+    bool bKeysOrdered() const;
+    /// The same, looking at the keys (once per change of them) when not known.
+    bool bCheckKeysOrdered();
+    /// With ordered keys: the index of the first key not before `time` (not NaN), the key count for none.
+    /// Tries the last key and the keys at and behind `iKeyHint` before halving.
+    int iOrderedLowerBound(float time) const;
     /// Index of the first key later than `time`, or -1.
     int iNextKeyIndex(float time) const;
     /// The segment the halving search of `value` ends in, or -1 when it meets a key at exactly `time` on
@@ -149,6 +156,13 @@ protected:
     QVector<KeyframeData<T>> keyframes;
     QVector<IType> interpolationRecords;
     bool bStreamingIn;
+    /// The key count when the keys were last known to be in strictly ascending time with no NaN, else
+    /// -1. Lets an append behind the last key and a look-up by time skip the scan of every key; every
+    /// change of `keyframes` other than such an append resets it.
+    int iOrderedKeys;
+    /// The index of the key that `vSetValue` set last (possibly gone since): where an ordered look-up
+    /// tries first. A hint only, checked before use.
+    int iKeyHint;
 };
 
 template <class T>
@@ -161,7 +175,9 @@ Parameter<T>::Parameter()
       eExtrapolationBefore(ExtrapolationUnset),
       eExtrapolationAfter(ExtrapolationUnset),
       eDefaultInterpolation(InterpolationUnset),
-      bStreamingIn(false)
+      bStreamingIn(false),
+      iOrderedKeys(-1),
+      iKeyHint(-1)
 {
     displayName = QStringLiteral("Not Set");
 }

@@ -15,6 +15,7 @@
 
 #include <QCoreApplication>
 #include <QTextStream>
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -40,7 +41,9 @@ Parameter<T>::Parameter(bool bKeyframedIn, char const* name)
       eExtrapolationBefore(ExtrapolationUnset),
       eExtrapolationAfter(ExtrapolationUnset),
       eDefaultInterpolation(InterpolationUnset),
-      bStreamingIn(false)
+      bStreamingIn(false),
+      iOrderedKeys(-1),
+      iKeyHint(-1)
 {
     displayName = QString::fromUtf8(name);
     scriptName = QString::fromLatin1(name);
@@ -56,7 +59,9 @@ Parameter<T>::Parameter(bool bKeyframedIn, char const* name, T const& value, Int
       eExtrapolationBefore(extrapolation),
       eExtrapolationAfter(extrapolation),
       eDefaultInterpolation(interpolation),
-      bStreamingIn(false)
+      bStreamingIn(false),
+      iOrderedKeys(-1),
+      iKeyHint(-1)
 {
     displayName = QCoreApplication::translate("Parameter", name);
     scriptName = QString::fromLatin1(name);
@@ -73,7 +78,9 @@ Parameter<T>::Parameter(Parameter const& other)
       eDefaultInterpolation(other.eDefaultInterpolation),
       keyframes(other.keyframes),
       interpolationRecords(other.interpolationRecords),
-      bStreamingIn(false)
+      bStreamingIn(false),
+      iOrderedKeys(-1),
+      iKeyHint(-1)
 {
     displayName = other.displayName;
     scriptName = other.scriptName;
@@ -94,6 +101,7 @@ Parameter<T>& Parameter<T>::operator=(Parameter const& other)
     eExtrapolationAfter = other.eExtrapolationAfter;
     keyframes = other.keyframes;
     interpolationRecords = other.interpolationRecords;
+    iOrderedKeys = -1;
     vRaise(ParameterChange::ParameterReplaced, 0);
     return *this;
 }
@@ -110,9 +118,56 @@ Parameter<T> const* Parameter<T>::typedMaster() const
 }
 
 template <class T>
+bool Parameter<T>::bKeysOrdered() const
+{
+    return iOrderedKeys == keyframes.size();
+}
+
+template <class T>
+bool Parameter<T>::bCheckKeysOrdered()
+{
+    if (bKeysOrdered())
+        return true;
+    KeyframeData<T> const* keys = keyframes.constData();
+    int const n = keyframes.size();
+    for (int i = 0; i < n; ++i) {
+        // A NaN time compares false both ways, so `<` alone would let it through.
+        if (!(keys[i].fTime == keys[i].fTime) || (i > 0 && !(keys[i - 1].fTime < keys[i].fTime)))
+            return false;
+    }
+    iOrderedKeys = n;
+    return true;
+}
+
+template <class T>
+int Parameter<T>::iOrderedLowerBound(float time) const
+{
+    KeyframeData<T> const* const keys = keyframes.constData();
+    int const n = keyframes.size();
+    // A reader's keys land behind the last one, or just behind the one it set before when the same
+    // text is read again.
+    if (n == 0 || keys[n - 1].fTime < time)
+        return n;
+    if (keys[n - 1].fTime == time)
+        return n - 1;
+    int const hint = iKeyHint;
+    if (hint >= 0 && hint < n && keys[hint].fTime == time)
+        return hint;
+    if (hint >= 0 && hint + 1 < n && keys[hint + 1].fTime == time)
+        return hint + 1;
+    auto const before = [](KeyframeData<T> const& key, float t) { return key.fTime < t; };
+    return int(std::lower_bound(keys, keys + n, time, before) - keys);
+}
+
+template <class T>
 int Parameter<T>::iKeyIndex(float time) const
 {
     int const n = keyframes.size();
+    if (bKeysOrdered() && n > 0) {
+        // Strictly ascending times: the one key at `time`, found by halving.
+        int const found = time == time ? iOrderedLowerBound(time) : n;
+        return found < n && keyframes[found].fTime == time ? found : -1;
+    }
     for (int i = 0; i < n; ++i) {
         if (keyframes[i].fTime == time)
             return i;
@@ -209,6 +264,7 @@ int Parameter<T>::iInsertKey(KeyframeData<T> const& key, int next, Interpolation
     IType record;
     record.eType = kind;
     int const n = keyframes.size();
+    iOrderedKeys = -1;
     if (next != -1) {
         record = intitialiseInterpolation(key, keyframes[next], kind);
         keyframes.insert(next, key);
@@ -235,7 +291,17 @@ int Parameter<T>::vSetValue(T const& newValue, float time)
     // iKeyIndex and iNextKeyIndex in one pass: the first key at `time`, else the first key after it.
     int index = -1;
     int next = -1;
-    for (int i = 0, n = keyframes.size(); i < n && index < 0; ++i) {
+    int const count = keyframes.size();
+    bool const bOrdered = count > 0 && bCheckKeysOrdered();
+    if (bOrdered) {
+        // Found by halving; a NaN time meets no key and comes before none.
+        int const found = time == time ? iOrderedLowerBound(time) : count;
+        if (found < count && keyframes[found].fTime == time)
+            index = found;
+        else if (found < count)
+            next = found;
+    }
+    for (int i = 0, n = bOrdered ? 0 : count; i < n && index < 0; ++i) {
         float const keyTime = keyframes[i].fTime;
         if (keyTime == time)
             index = i;
@@ -244,12 +310,16 @@ int Parameter<T>::vSetValue(T const& newValue, float time)
     }
     if (index >= 0) {
         keyframes[index].tValue = newValue;
+        iKeyHint = index;
         vRaise(ParameterChange::ValueChanged, static_cast<unsigned int>(index));
         return index;
     }
     // A set key takes the kind of the segment it will start, unlike iAddKeyframe.
     Interpolation const kind = next == -1 ? eDefaultInterpolation : eRecordKind(next);
     index = iInsertKey(KeyframeData<T>{time, newValue}, next, kind);
+    // A key that is not at NaN keeps ascending keys ascending.
+    iOrderedKeys = (bOrdered || count == 0) && time == time ? keyframes.size() : -1;
+    iKeyHint = index;
     vRaise(ParameterChange::KeyframeAdded, static_cast<unsigned int>(index));
     vRaise(ParameterChange::ValueChanged, static_cast<unsigned int>(index));
     return index;
@@ -278,6 +348,7 @@ int Parameter<T>::moveAndChangeKeyframe(T const& newValue, float fromTime, float
     int const n = keyframes.size();
     bool const bStays = (index == 0 || !(toTime < keyframes[index - 1].fTime))
                         && (index == n - 1 || !(keyframes[index + 1].fTime < toTime));
+    iOrderedKeys = -1;
     if (bStays) {
         keyframes[index].fTime = toTime;
         keyframes[index].tValue = newValue;
@@ -516,6 +587,7 @@ void Parameter<T>::vDeleteKeyframe(float time)
         return;
     if (keyframes.size() == 1)
         tStaticValue = keyframes[0].tValue;
+    iOrderedKeys = -1;
     keyframes.remove(index);
     if (index < interpolationRecords.size())
         interpolationRecords.remove(index);
@@ -528,6 +600,7 @@ void Parameter<T>::vDeleteAllKeyframes()
     if (!bKeyframed)
         return;
     keyframes.clear();
+    iOrderedKeys = -1;
     interpolationRecords.clear();
     vRaise(ParameterChange::AllKeyframesDeleted, 0);
 }
@@ -595,6 +668,7 @@ void Parameter<T>::vCopyKeyframeDataFrom(ParameterWithoutType const* source)
     eExtrapolationBefore = other->eExtrapolationBefore;
     eExtrapolationAfter = other->eExtrapolationAfter;
     keyframes = other->keyframes;
+    iOrderedKeys = -1;
     interpolationRecords = other->interpolationRecords;
     vRaise(ParameterChange::ParameterReplaced, 0);
 }
@@ -647,7 +721,7 @@ LineRead eReadKeyLine(Parameter<T>& parameter, QString const& line,
                       boost::function<QString(QString const&)> const& textFilter)
 {
     // Only the case-sensitive block word tells the two blocks apart, wherever it stands.
-    bool const bBezier = line.contains(QLatin1String("BezierKey"), Qt::CaseSensitive);
+    bool const bBezier = bHasBezierBlockWord(line);
     // The entries of parseKeyframeDeclaration, as views: no copy of each on the load path.
     KeyframeEntries tokens;
     vKeyframeDeclarationEntries(line, tokens);
@@ -655,7 +729,7 @@ LineRead eReadKeyLine(Parameter<T>& parameter, QString const& line,
         vLogKeyFailure("Key", line);
         return LineRead::Failed;
     }
-    float const time = tokens.at(0).toFloat();
+    float const time = NumberText::fToFloat(tokens.at(0));
     T value{};
     if (textFilter || !NumberText::bReadPlain(tokens.at(1), value)) {
         QString text = textFilter ? textFilter(tokens.at(1).toString()) : tokens.at(1).toString();
@@ -674,10 +748,12 @@ LineRead eReadKeyLine(Parameter<T>& parameter, QString const& line,
     }
     IType record;
     record.eType = InterpolationBezier;
-    record.dOutTime = tokens.at(2).toDouble();
-    record.dOutValue = tokens.at(3).toDouble();
-    record.dInTime = tokens.at(4).toDouble();
-    record.dInValue = tokens.at(5).toString().remove(QLatin1Char(')')).toDouble();
+    record.dOutTime = NumberText::dToDouble(tokens.at(2));
+    record.dOutValue = NumberText::dToDouble(tokens.at(3));
+    record.dInTime = NumberText::dToDouble(tokens.at(4));
+    QStringRef const last = tokens.at(5);
+    record.dInValue = last.contains(QLatin1Char(')')) ? last.toString().remove(QLatin1Char(')')).toDouble()
+                                                      : NumberText::dToDouble(last);
     // -1 (not keyframed) becomes an index out of range, which the setter ignores.
     parameter.vSetInterpolationData(record, static_cast<unsigned int>(index));
     return LineRead::Taken;
@@ -688,27 +764,30 @@ LineRead eReadKeyLine(Parameter<T>& parameter, QString const& line,
 template <class T>
 QString Parameter<T>::indexSuffixString(int index) const
 {
-    static QString const bezierTemplate = QStringLiteral("%1, %2, %3, %4");
     if (index < 0 || index >= keyframes.size())
         return QString();
     KeyframeData<T> const& key = keyframes.at(index);
     IType const record = index < interpolationRecords.size() ? interpolationRecords.at(index) : IType();
     bool const bBezier = record.eType == InterpolationBezier;
-    QString const curve = bBezier ? bezierTemplate.arg(record.dOutTime, 0, 'g', -1)
-                                        .arg(record.dOutValue, 0, 'g', -1)
-                                        .arg(record.dInTime, 0, 'g', -1)
-                                        .arg(record.dInValue, 0, 'g', -1)
-                                  : qstrInterpolationTypeString(record.eType);
-    // Joined piece by piece rather than by markers, so that nothing in a text value is filled in; the
-    // time prints as arg(double) would print it.
+    // Joined piece by piece rather than by markers, so that nothing in a text value is filled in. Every
+    // real prints as QString::arg(double) prints it at its default: six significant digits.
     QString line;
     line.reserve(64);
     line += QLatin1String(bBezier ? "keyframes.append( BezierKey( " : "keyframes.append( Key( ");
-    line += QString::number(static_cast<double>(key.fTime), 'g', 6);
+    NumberText::vAppendShortReal(line, static_cast<double>(key.fTime));
     line += QLatin1String(", ");
-    line += ValueText<T>::qstrWritten(key.tValue);
+    ValueText<T>::vAppendWritten(line, key.tValue);
     line += QLatin1String(", ");
-    line += curve;
+    if (bBezier) {
+        double const handles[] = {record.dOutTime, record.dOutValue, record.dInTime, record.dInValue};
+        for (int i = 0; i < 4; ++i) {
+            if (i > 0)
+                line += QLatin1String(", ");
+            NumberText::vAppendShortReal(line, handles[i]);
+        }
+    } else {
+        line += qstrInterpolationTypeString(record.eType);
+    }
     line += QLatin1String(" ) )");
     return line;
 }
@@ -749,8 +828,21 @@ bool Parameter<T>::bStreamOut(QTextStream& out, QString const& prefix, bool bQua
         out << Qt::endl;
     }
     if (bKeyframed) {
-        for (int i = 0; i < keyframes.size(); ++i)
-            out << linePrefix << indexSuffixString(i) << Qt::endl;
+        // Without a field width nothing pads the pieces, so each key line goes out as one string.
+        bool const bJoin = out.fieldWidth() == 0;
+        QString line;
+        for (int i = 0; i < keyframes.size(); ++i) {
+            if (!bJoin) {
+                out << linePrefix << indexSuffixString(i) << Qt::endl;
+                continue;
+            }
+            line.resize(0);
+            line += linePrefix;
+            line += indexSuffixString(i);
+            line += QLatin1Char('\n');
+            out << line;
+            out.flush();
+        }
     }
     out << linePrefix << "hidden=" << (bHidden ? '1' : '0') << Qt::endl;
     out << linePrefix << "keyframed=" << (bKeyframed ? '1' : '0') << Qt::endl;

@@ -5,16 +5,21 @@
 
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace Prm {
 
 ParameterSet::ParameterSet(QString const& name, ParameterTree*)
-    : bBasicParametersOwned(false), displayName(name), scriptName(name)
+    : bBasicParametersOwned(false), displayName(name), scriptName(name), bLineBuffersInUse(false)
 {
     ParameterLineRouter::vNamesChanged();
 }
 
 ParameterSet::ParameterSet(ParameterSet const& other)
-    : bBasicParametersOwned(false), displayName(other.displayName), scriptName(other.scriptName)
+    : bBasicParametersOwned(false),
+      displayName(other.displayName),
+      scriptName(other.scriptName),
+      bLineBuffersInUse(false)
 {
     ParameterLineRouter::vNamesChanged();
 }
@@ -69,17 +74,30 @@ bool ParameterSet::bStreamOut(QTextStream& out, QString const& prefix, bool bQua
 
 bool ParameterSet::bStreamIn(QString const& line)
 {
-    int const dot = line.indexOf(QLatin1Char('.'));
-    if (dot <= 0)
+    // Names are short: a plain search beats Qt's set-up for a long one.
+    QChar const* const chars = line.constData();
+    int const dot = int(std::find(chars, chars + line.size(), QLatin1Char('.')) - chars);
+    if (dot <= 0 || dot == line.size())
         return false;
-    // The name only looks things up, so it may borrow the line's characters.
-    QString const name = QString::fromRawData(line.constData(), dot);
-    QString const rest = line.mid(dot + 1);
+    QStringView const name(chars, dot);
+    if (bLineBuffersInUse)
+        return bStreamInParts(name, line.mid(dot + 1));
+    // The rest is copied into a string kept from line to line, so that a line costs no allocation; a
+    // reader that keeps the rest shares it, and the next line then detaches.
+    bLineBuffersInUse = true;
+    restBuffer.setUnicode(line.constData() + dot + 1, line.size() - dot - 1);
+    bool const bTaken = bStreamInParts(name, restBuffer);
+    bLineBuffersInUse = false;
+    return bTaken;
+}
+
+bool ParameterSet::bStreamInParts(QStringView name, QString const& rest)
+{
     LineTargets const& targets = targetsOf(name);
     int const parameterCount = targets.parameters.size();
     int const count = parameterCount + targets.basicParameters.size();
     if (count > 0) {
-        int const chosen = count > 1 ? lineRouter.iChoose(name, count, eTextField(rest)) : 0;
+        int const chosen = count > 1 ? lineRouter.iChoose(name.toString(), count, eTextField(rest)) : 0;
         if (chosen < parameterCount ? parameters.at(targets.parameters.at(chosen))->bStreamInLine(rest)
                                     : basicParameters.at(targets.basicParameters.at(chosen - parameterCount))
                                           ->bStreamIn(rest))
@@ -89,7 +107,7 @@ bool ParameterSet::bStreamIn(QString const& line)
     return bStreamInChild(name, rest, QVector<int>(targets.childSets));
 }
 
-LineTargets const& ParameterSet::targetsOf(QString const& name)
+LineTargets const& ParameterSet::targetsOf(QStringView name)
 {
     auto const nameOf = [this](int list, int position) -> QString const* {
         if (list == ParameterLineRouter::Parameters) {
@@ -106,7 +124,7 @@ LineTargets const& ParameterSet::targetsOf(QString const& name)
     return lineRouter.targetsOf(name, {{parameters.size(), basicParameters.size(), childSets.size()}}, nameOf);
 }
 
-bool ParameterSet::bStreamInChild(QString const& name, QString const& rest, QVector<int> const& children)
+bool ParameterSet::bStreamInChild(QStringView name, QString const& rest, QVector<int> const& children)
 {
     ParameterSet* chosen = nullptr;
     if (children.size() > 1) {
@@ -114,7 +132,7 @@ bool ParameterSet::bStreamInChild(QString const& name, QString const& rest, QVec
         int const dot = rest.indexOf(QLatin1Char('.'));
         TextField const field = dot > 0 ? eTextField(rest.mid(dot + 1)) : TextField::Unknown;
         int const position = childSets.at(children.first())->iTextPosition(rest.left(dot));
-        chosen = childSets.at(children.at(lineRouter.iChooseSet(name, children.size(), position, field)));
+        chosen = childSets.at(children.at(lineRouter.iChooseSet(name.toString(), children.size(), position, field)));
         if (chosen->bStreamIn(rest))
             return true;
     }
@@ -126,7 +144,7 @@ bool ParameterSet::bStreamInChild(QString const& name, QString const& rest, QVec
     return false;
 }
 
-int ParameterSet::iTextPosition(QString const& name)
+int ParameterSet::iTextPosition(QStringView name)
 {
     LineTargets const& targets = targetsOf(name);
     if (!targets.parameters.isEmpty())

@@ -63,13 +63,15 @@ protected:
     bool bBasicParametersOwned;
 
 private:
+    /// `bStreamIn` with the line cut at its first dot.
+    bool bStreamInParts(QStringView name, QString const& rest);
     /// Hands a line to the child sets at `children`, all named `name`; among several, first to the one
     /// whose block the line continues.
-    bool bStreamInChild(QString const& name, QString const& rest, QVector<int> const& children);
+    bool bStreamInChild(QStringView name, QString const& rest, QVector<int> const& children);
     /// Where the lines of `name` may go, from the router's name index.
-    LineTargets const& targetsOf(QString const& name);
+    LineTargets const& targetsOf(QStringView name);
     /// Where a parameter, basic parameter or child named `name` stands in this set's text, -1 for none.
-    int iTextPosition(QString const& name);
+    int iTextPosition(QStringView name);
 
     QString displayName;
     QString scriptName;
@@ -77,6 +79,10 @@ private:
     // Reading state, never copied or assigned: the name index and the choice among parameters that
     // share a name.
     ParameterLineRouter lineRouter;
+    // The rest of the line being read, kept for its capacity; a line that comes back to this set while it
+    // reads one gets a fresh string instead.
+    QString restBuffer;
+    bool bLineBuffersInUse;
 };
 
 } // namespace Prm

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <climits>
 
 namespace Prm {
@@ -50,10 +51,19 @@ bool bSameName(QStringRef const& text, QString const& name)
 
 bool bValueOfName(QStringRef const& text, QStringList const& names, int& value)
 {
+    // Most texts are a name as the writer spells it. The names differ in more than case, so the first
+    // name equal to the text is also the first that the comparison below would find.
+    for (int i = 0; i < names.size(); ++i) {
+        QString const& name = names.at(i);
+        if (name.size() == text.size() && std::equal(name.cbegin(), name.cend(), text.cbegin())) {
+            value = i;
+            return true;
+        }
+    }
     // Closing parentheses and blanks around the name are not part of it; most texts have neither.
     QString withoutParentheses;
     QStringRef cleaned = text.trimmed();
-    if (text.contains(QLatin1Char(')'))) {
+    if (std::find(text.cbegin(), text.cend(), QLatin1Char(')')) != text.cend()) {
         withoutParentheses = text.toString().remove(QLatin1Char(')'));
         cleaned = QStringRef(&withoutParentheses).trimmed();
     }

@@ -1,5 +1,7 @@
 #include "prm/text/ParameterLine.h"
 
+#include <cstring>
+
 namespace Prm {
 
 namespace {
@@ -27,31 +29,58 @@ int iAsciiPrefix(QString const& line, QLatin1String word)
 {
     if (line.size() < word.size())
         return 0;
+    QChar const* const chars = line.constData();
     for (int i = 0; i < word.size(); ++i) {
-        ushort const c = line.at(i).unicode();
+        ushort const c = chars[i].unicode();
         if (c >= 0x80)
             return -1;
-        if (uAsciiLower(c) != uAsciiLower(ushort(word.at(i).unicode())))
+        // The words are letters only: setting bit 5 lowers exactly the two cases of each.
+        if ((c | 0x20) != (ushort(word.at(i).unicode()) | 0x20))
             return 0;
     }
     return 1;
 }
 
+// Case-sensitive, without Qt's comparison set-up.
+bool bStartsExactly(QString const& line, QString const& start)
+{
+    return line.size() >= start.size()
+           && std::memcmp(line.constData(), start.constData(), size_t(start.size()) * sizeof(QChar)) == 0;
+}
+
 QLatin1Char const quote('"');
+ushort const quoteCode = '"';
 
 // Index just behind the opening parenthesis of the inner call, or -1 when the line has none in front of
 // its first comma.
 int iArgumentStart(QString const& line)
 {
+    QChar const* const chars = line.constData();
     bool bQuoted = false;
     int start = -1;
-    for (int i = 0; i < line.size(); ++i) {
-        QChar const c = line.at(i);
-        if (c == quote)
-            bQuoted = !bQuoted;
-        else if (!bQuoted && c == QLatin1Char(','))
+    int i = 0;
+    // The opening the writer puts on every key line holds no quote or comma and ends in its last
+    // parenthesis and a blank: the scan may go on behind it.
+    static QString const openings[] = {QStringLiteral("keyframes.append( Key( "),
+                                       QStringLiteral("keyframes.append( BezierKey( ")};
+    for (QString const& opening : openings) {
+        if (bStartsExactly(line, opening)) {
+            i = opening.size();
+            start = i - 1;
             break;
-        else if (!bQuoted && c == QLatin1Char('('))
+        }
+    }
+    for (int n = line.size(); i < n; ++i) {
+        ushort const c = chars[i].unicode();
+        if (c > ',')
+            continue;
+        if (c == quoteCode)
+            bQuoted = !bQuoted;
+        else if (bQuoted)
+            continue;
+        else if (c == ',')
+            break;
+        else if (c == '(')
             start = i + 1;
     }
     return start;
@@ -61,32 +90,43 @@ int iArgumentStart(QString const& line)
 // closes the call or the end of the line. Each entry starts outside quotes and parentheses.
 int iEntryEnd(QString const& line, int from, bool& bLast)
 {
+    QChar const* const chars = line.constData();
+    int const n = line.size();
     bool bQuoted = false;
     int depth = 0;
     bLast = true;
-    for (int i = from; i < line.size(); ++i) {
-        QChar const c = line.at(i);
-        if (c == quote) {
+    for (int i = from; i < n; ++i) {
+        ushort const c = chars[i].unicode();
+        // Letters, digits, points and blanks decide nothing.
+        if (c > ',' || c == ' ')
+            continue;
+        if (c == quoteCode) {
             bQuoted = !bQuoted;
         } else if (bQuoted) {
             continue;
-        } else if (c == QLatin1Char('(')) {
+        } else if (c == '(') {
             ++depth;
-        } else if (c == QLatin1Char(')')) {
+        } else if (c == ')') {
             if (depth == 0)
                 return i;
             --depth;
-        } else if (depth == 0 && c == QLatin1Char(',')) {
+        } else if (depth == 0 && c == ',') {
             bLast = false;
             return i;
         }
     }
-    return line.size();
+    return n;
 }
 
+// As line.midRef(from, to - from).trimmed(): blanks off the end first, then off the start.
 QStringRef entryRef(QString const& line, int from, int to)
 {
-    return line.midRef(from, to - from).trimmed();
+    QChar const* const chars = line.constData();
+    while (to > from && chars[to - 1].isSpace())
+        --to;
+    while (from < to && chars[from].isSpace())
+        ++from;
+    return QStringRef(&line, from, to - from);
 }
 
 // Appends the entries from `from` to the end of the call; an empty last entry counts only behind others.
@@ -121,7 +161,7 @@ int iSkipBlanks(QString const& line, int from)
 // pair up around the value as written is split as before.
 void vJoinQuotedValue(QString const& line, int start, KeyframeEntries& entries)
 {
-    if (entries.size() < 2 || !entries.at(1).startsWith(quote))
+    if (entries.size() < 2 || entries.at(1).isEmpty() || entries.at(1).at(0) != quote)
         return;
     bool bLast = false;
     int const comma = iEntryEnd(line, start, bLast);
@@ -144,12 +184,38 @@ void vJoinQuotedValue(QString const& line, int start, KeyframeEntries& entries)
 
 TextField eTextField(QString const& line)
 {
+    // The writer's own spelling of the first word decides at once.
+    static QString const keyframes = QStringLiteral("keyframes");
+    if (bStartsExactly(line, keyframes))
+        return TextField::Keyframes;
+    // A word whose first letter differs from an ASCII first character cannot match; any other first
+    // character may fold onto a letter, so then every word is tried.
+    ushort const first = line.isEmpty() ? 0x80 : line.at(0).unicode();
     for (Word const& word : words) {
+        if (first < 0x80 && uAsciiLower(first) != uAsciiLower(ushort(word.text.at(0).unicode())))
+            continue;
         int const match = iAsciiPrefix(line, word.text);
         if (match == 1 || (match < 0 && line.startsWith(word.text, Qt::CaseInsensitive)))
             return word.field;
     }
     return TextField::Unknown;
+}
+
+bool bHasBezierBlockWord(QString const& line)
+{
+    // As contains(QLatin1String("BezierKey")), without Qt's search set-up for each line.
+    static char const word[] = "BezierKey";
+    int const length = int(sizeof(word)) - 1;
+    QChar const* const chars = line.constData();
+    int const last = line.size() - length;
+    for (int i = line.indexOf(QLatin1Char('B')); i >= 0 && i <= last; i = line.indexOf(QLatin1Char('B'), i + 1)) {
+        int k = 1;
+        while (k < length && chars[i + k].unicode() == ushort(word[k]))
+            ++k;
+        if (k == length)
+            return true;
+    }
+    return false;
 }
 
 QString qstrFieldText(QString const& line)
@@ -175,7 +241,8 @@ bool bFlagOfLine(QString const& line)
 
 void vKeyframeDeclarationEntries(QString const& line, KeyframeEntries& entries)
 {
-    entries.clear();
+    if (!entries.isEmpty())
+        entries.clear();
     int const start = iArgumentStart(line);
     if (start < 0)
         return;

@@ -26,6 +26,9 @@ enum class TextField : int {
 /// that merely begins with one of them is taken for it.
 TextField eTextField(QString const& line);
 
+/// Whether "BezierKey" occurs anywhere in the line, case-sensitively: what makes a key line a Bezier block.
+bool bHasBezierBlockWord(QString const& line);
+
 /// Section 1 of the line split at `=`, alone: it ends at a second `=`.
 QString qstrFieldText(QString const& line);
 

@@ -3,8 +3,11 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringView>
 #include <QVector>
+#include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace Prm {
 
@@ -33,6 +36,11 @@ class ParameterLineRouter {
 public:
     enum List { Parameters = 0, BasicParameters = 1, ChildSets = 2 };
 
+    ParameterLineRouter() = default;
+    // It points into its own index.
+    ParameterLineRouter(ParameterLineRouter const&) = delete;
+    ParameterLineRouter& operator=(ParameterLineRouter const&) = delete;
+
     /// Index, among `candidateCount` parameters named `name` in set order, of the one that takes a line
     /// of `field`. A line of unknown field goes to the current block and changes nothing. `name` may
     /// borrow its characters (`QString::fromRawData`): nothing keeps it.
@@ -46,18 +54,23 @@ public:
     int iChooseSet(QString const& name, int candidateCount, int position, TextField field);
 
     /// The targets of `name` among lists of `counts` entries, where `nameOf(list, position)` gives an
-    /// entry's name (null for an entry that is gone). The reference lives until the next call. `name`
-    /// may borrow its characters: nothing keeps it.
+    /// entry's name (null for an entry that is gone). The reference lives until the next call. Nothing
+    /// keeps `name`.
     template <class NameOf>
-    LineTargets const& targetsOf(QString const& name, std::array<int, 3> const& counts, NameOf nameOf);
+    LineTargets const& targetsOf(QStringView name, std::array<int, 3> const& counts, NameOf nameOf);
 
     /// Marks every name index of every set out of date. Thread-safe.
     static void vNamesChanged();
 
 private:
     static unsigned int uiNamesGeneration();
+    /// Exact equality, inline: names are short and compared on every line.
+    static bool bSameText(QStringView a, QStringView b)
+    {
+        return a.size() == b.size() && std::memcmp(a.data(), b.data(), size_t(a.size()) * sizeof(QChar)) == 0;
+    }
     template <class NameOf>
-    bool bStillNamed(LineTargets const& targets, QString const& name, NameOf nameOf) const;
+    bool bStillNamed(LineTargets const& targets, QStringView name, NameOf nameOf) const;
 
     struct Cursor {
         int iCandidate = 0;
@@ -70,19 +83,24 @@ private:
 
     QHash<QString, Cursor> cursors;
     QHash<QString, LineTargets> nameIndex;
+    // The entry of `nameIndex` found last and its name (a copy, kept for its capacity); null when none.
+    QString lastName;
+    // The name being looked up, as the index's key type; kept for its capacity.
+    QString lookupName;
+    LineTargets const* pLastTargets = nullptr;
     std::array<int, 3> indexedCounts = {{-1, -1, -1}};
     unsigned int uiIndexedGeneration = 0;
     QHash<QString, Cursor> setCursors;
 };
 
 template <class NameOf>
-bool ParameterLineRouter::bStillNamed(LineTargets const& targets, QString const& name, NameOf nameOf) const
+bool ParameterLineRouter::bStillNamed(LineTargets const& targets, QStringView name, NameOf nameOf) const
 {
     QVector<int> const* lists[3] = {&targets.parameters, &targets.basicParameters, &targets.childSets};
     for (int list = 0; list < 3; ++list) {
         for (int position : *lists[list]) {
             QString const* current = nameOf(list, position);
-            if (!current || *current != name)
+            if (!current || !bSameText(*current, name))
                 return false;
         }
     }
@@ -90,19 +108,27 @@ bool ParameterLineRouter::bStillNamed(LineTargets const& targets, QString const&
 }
 
 template <class NameOf>
-LineTargets const& ParameterLineRouter::targetsOf(QString const& name, std::array<int, 3> const& counts,
+LineTargets const& ParameterLineRouter::targetsOf(QStringView name, std::array<int, 3> const& counts,
                                                   NameOf nameOf)
 {
     static LineTargets const none;
     unsigned int const generation = uiNamesGeneration();
     if (counts == indexedCounts && generation == uiIndexedGeneration) {
-        auto const found = nameIndex.constFind(name);
+        // A parameter's lines come together: the name of the line before is tried first.
+        if (pLastTargets && bSameText(lastName, name) && bStillNamed(*pLastTargets, name, nameOf))
+            return *pLastTargets;
+        lookupName.setUnicode(name.data(), int(name.size()));
+        auto const found = nameIndex.constFind(lookupName);
         if (found == nameIndex.constEnd())
             return none;
         // An entry replaced in place keeps the list's length: look before trusting the index.
-        if (bStillNamed(*found, name, nameOf))
+        if (bStillNamed(*found, name, nameOf)) {
+            lastName.setUnicode(name.data(), int(name.size()));
+            pLastTargets = &*found;
             return *found;
+        }
     }
+    pLastTargets = nullptr;
     nameIndex.clear();
     for (int list = 0; list < 3; ++list) {
         for (int position = 0; position < counts[list]; ++position) {
@@ -117,7 +143,8 @@ LineTargets const& ParameterLineRouter::targetsOf(QString const& name, std::arra
     }
     indexedCounts = counts;
     uiIndexedGeneration = generation;
-    auto const found = nameIndex.constFind(name);
+    lookupName.setUnicode(name.data(), int(name.size()));
+    auto const found = nameIndex.constFind(lookupName);
     return found == nameIndex.constEnd() ? none : *found;
 }
 

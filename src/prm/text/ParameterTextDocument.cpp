@@ -7,6 +7,10 @@
 #include <QHash>
 #include <QTextStream>
 
+#include <algorithm>
+#include <charconv>
+#include <cstring>
+
 namespace Prm {
 
 namespace {
@@ -21,13 +25,9 @@ void vCollectParameters(ParameterSet const& set, QVector<ParameterWithoutType*>&
 }
 
 // As trimmed().isEmpty(), without the copy.
-bool bBlank(QString const& line)
+bool bBlank(QChar const* chars, int size)
 {
-    for (QChar const c : line) {
-        if (!c.isSpace())
-            return false;
-    }
-    return true;
+    return std::all_of(chars, chars + size, [](QChar c) { return c.isSpace(); });
 }
 
 // True when the follower already follows the parameter its text names.
@@ -60,42 +60,67 @@ QString ParameterTextDocument::qstrWrite() const
 
 int ParameterTextDocument::iRead(QString const& text)
 {
-    QString copy(text);
-    QTextStream in(&copy, QIODevice::ReadOnly);
-    return iRead(in);
+    // The lines a QTextStream on the text would give, without its scanning and copying: each ends at
+    // "\n" or "\r\n", a "\r" that ends the text is dropped, and a text ending at a line break has no
+    // empty line behind it.
+    unread.clear();
+    int taken = 0;
+    QChar const* const chars = text.constData();
+    int const size = text.size();
+    QString line;
+    for (int start = 0, number = 1; start < size; ++number) {
+        int const lineBreak = text.indexOf(QLatin1Char('\n'), start);
+        int const next = lineBreak < 0 ? size : lineBreak + 1;
+        int end = lineBreak < 0 ? size : lineBreak;
+        if (end > start && chars[end - 1] == QLatin1Char('\r'))
+            --end;
+        vOfferLine(number, chars + start, end - start, line, taken);
+        start = next;
+    }
+    vBindMasters();
+    return taken;
 }
 
 int ParameterTextDocument::iRead(QTextStream& in)
 {
     unread.clear();
     int taken = 0;
+    QString streamLine;
     QString line;
-    for (int number = 1; in.readLineInto(&line); ++number) {
-        if (bBlank(line))
-            continue;
-        if (bReadLine(line)) {
-            ++taken;
-            continue;
-        }
-        unread.append(UnreadLine{number, line});
-        Bsc::LOG_STRING(QStringLiteral("ParameterTextDocument: line %1 not read: '%2'").arg(number).arg(line));
-    }
+    for (int number = 1; in.readLineInto(&streamLine); ++number)
+        vOfferLine(number, streamLine.constData(), streamLine.size(), line, taken);
     vBindMasters();
     return taken;
 }
 
-bool ParameterTextDocument::bReadLine(QString& line)
+void ParameterTextDocument::vOfferLine(int number, QChar const* chars, int size, QString& line, int& taken)
 {
+    if (bBlank(chars, size))
+        return;
     QString const& name = set.qstrScriptName();
-    if (name.isEmpty() || line.size() <= name.size() || !line.startsWith(name)
-        || line.at(name.size()) != QLatin1Char('.'))
-        return set.bStreamIn(line);
-    // The root's name comes off in place rather than in a copy; a line not taken gets it back.
-    line.remove(0, name.size() + 1);
-    if (set.bStreamIn(line))
-        return true;
-    line.prepend(name + QLatin1Char('.'));
-    return false;
+    int const nameSize = name.size();
+    // The root's name comes off when the line carries it; a line without it goes to the set whole.
+    bool const bQualified = nameSize > 0 && size > nameSize && chars[nameSize] == QLatin1Char('.')
+                            && std::memcmp(chars, name.constData(), size_t(nameSize) * sizeof(QChar)) == 0;
+    int const skipped = bQualified ? nameSize + 1 : 0;
+    line.setUnicode(chars + skipped, size - skipped);
+    if (set.bStreamIn(line)) {
+        ++taken;
+        return;
+    }
+    line.setUnicode(chars, size);
+    unread.append(UnreadLine{number, line});
+    // "ParameterTextDocument: line %1 not read: '%2'", joined without the markers' parsing.
+    char digits[16];
+    int const digitCount = int(std::to_chars(digits, digits + sizeof(digits), number).ptr - digits);
+    QString message;
+    message.reserve(size + 48);
+    message += QLatin1String("ParameterTextDocument: line ");
+    message += QLatin1String(digits, digitCount);
+    message += QLatin1String(" not read: '");
+    message += line;
+    message += QLatin1Char('\'');
+    Bsc::LOG_STRING(message);
 }
 
 void ParameterTextDocument::vBindMasters() const

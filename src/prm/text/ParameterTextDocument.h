@@ -31,15 +31,17 @@ public:
 
     /// Offers each line to the set: the root's "Name." is stripped when the line carries it, and blank
     /// lines are skipped. Then binds masters. Returns the number of lines taken; `unreadLines` lists the
-    /// others, replacing those of an earlier read.
+    /// others, replacing those of an earlier read. A text gives the lines that a QTextStream on it gives.
     int iRead(QTextStream& in);
     int iRead(QString const& text);
 
     QVector<UnreadLine> const& unreadLines() const { return unread; }
 
 private:
-    /// Offers `line` to the set; it may be changed meanwhile and is as it was again when not taken.
-    bool bReadLine(QString& line);
+    /// Offers line `number` (`size` characters at `chars`, which must not be `line`'s) to the set unless it
+    /// is blank, counting it in `taken` or listing and logging it as unread. `line` is the buffer that
+    /// carries it to the set.
+    void vOfferLine(int number, QChar const* chars, int size, QString& line, int& taken);
     void vBindMasters() const;
 
     ParameterSet& set;
