@@ -44,6 +44,7 @@
 #include "prm/text/ParameterLineRouter.h"
 #include "prm/text/ParameterTextDocument.h"
 #include "prm/text/StreamOperators.h"
+#include "prm/text/NumberText.h"
 #include "prm/text/ValueText.h"
 
 // --- support
