@@ -96,6 +96,10 @@ bool ParameterSet::bStreamInParts(QStringView name, QString const& rest)
     LineTargets const& targets = targetsOf(name);
     int const parameterCount = targets.parameters.size();
     int const count = parameterCount + targets.basicParameters.size();
+    if (count == 0 && targets.childSets.isEmpty()) {
+        // A line that still carries the set's own name, as a qualified write gives it, reads as well.
+        return !scriptName.isEmpty() && name == scriptName && bStreamIn(rest);
+    }
     if (count > 0) {
         int const chosen = count > 1 ? lineRouter.iChoose(name.toString(), count, eTextField(rest)) : 0;
         if (chosen < parameterCount ? parameters.at(targets.parameters.at(chosen))->bStreamInLine(rest)

@@ -35,7 +35,9 @@ public:
     virtual void setScriptName(QString const& name);
     /// Writes every added parameter, then `basicParameters`, then `childSets`.
     virtual bool bStreamOut(QTextStream& out, QString const& prefix, bool bQualify);
-    /// Hands one line, relative to the set, to the parameter or child set it names; true when taken.
+    /// Hands one line, relative to the set, to the parameter or child set it names; true when taken. A line
+    /// that names nothing the set holds but starts with the set's own script name and a dot (as a qualified
+    /// `bStreamOut` writes it) is read without that name. False, the set unchanged, for any other line.
     virtual bool bStreamIn(QString const& line);
     /// Gives the set both names at once.
     virtual void assignName(QString const& name);
