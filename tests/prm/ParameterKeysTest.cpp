@@ -2,8 +2,10 @@
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <random>
 #include <tuple>
 
 using namespace Prm;
@@ -27,6 +29,26 @@ public:
     }
     void setStreamingIn(bool b) { bStreamingIn = b; }
 };
+
+int iModelFind(Keys<Curve> const& keys, float time)
+{
+    auto const at = std::find_if(keys.begin(), keys.end(), [time](auto const& key) { return key.first == time; });
+    return at == keys.end() ? -1 : int(at - keys.begin());
+}
+
+// The scan's rules: a value lands on the first key at its time, else before the first key after it.
+int iModelSet(Keys<Curve>& keys, float time, double value)
+{
+    int const at = iModelFind(keys, time);
+    if (at >= 0) {
+        keys[size_t(at)].second = value;
+        return at;
+    }
+    auto const after = std::find_if(keys.begin(), keys.end(), [time](auto const& key) { return key.first > time; });
+    int const index = int(after - keys.begin());
+    keys.insert(after, {time, value});
+    return index;
+}
 
 } // namespace
 
@@ -231,4 +253,46 @@ TEST(ParameterKeys, AssignmentAndCopyOfKeyframeData)
     assigned = other;
     EXPECT_EQ(std::make_pair(assigned.qstrScriptName(), assigned.defaultValue()), std::make_pair(QString("Other"), 1.0));
     EXPECT_EQ(state(assigned), "1 | 1:2L");
+}
+
+// Keys are looked up by halving while they are known to be in order, and by a scan from the first key
+// otherwise (NaN times and moves can leave them out of order). Both must find what the scan finds.
+TEST(ParameterKeys, SetMoveAndDeleteFindTheKeysTheScanFinds)
+{
+    float const times[] = {0.0f, 1.0f, 2.0f, 3.0f, 5.0f, 8.0f, -1.0f, -0.0f, std::nanf("")};
+    std::mt19937 random(3);
+    for (int round = 0; round < 200; ++round) {
+        Curve parameter(true, "P", 0.0, -1e9, 1e9, InterpolationLinear, ExtrapolationHold);
+        Keys<Curve> model;
+        for (int step = 0; step < 40; ++step) {
+            float const time = times[random() % 9];
+            int const kind = random() % 6, at = iModelFind(model, time);
+            if (kind == 0) {
+                // A move that stays in place may leave the keys out of order around a NaN neighbour.
+                float const to = times[random() % 9];
+                bool const bStays = at >= 0 && (at == 0 || !(to < model[size_t(at) - 1].first))
+                                    && (at == int(model.size()) - 1 || !(model[size_t(at) + 1].first < to));
+                if (at >= 0 && !bStays)
+                    model.erase(model.begin() + at);
+                int const expected = bStays ? at : at >= 0 ? iModelSet(model, to, step) : -1;
+                if (bStays)
+                    model[size_t(at)] = {to, step};
+                EXPECT_EQ(parameter.moveAndChangeKeyframe(step, time, to), expected);
+            } else if (kind == 1) {
+                if (at >= 0)
+                    model.erase(model.begin() + at);
+                parameter.vDeleteKeyframe(time);
+            } else {
+                EXPECT_EQ(parameter.vSetValue(step, time), iModelSet(model, time, step));
+            }
+            ASSERT_EQ(parameter.keyframeCount(), model.size());
+            for (unsigned int i = 0; i < model.size(); ++i) {
+                float const stored = parameter.keyframeTime(i);
+                EXPECT_TRUE(stored == model[i].first || (std::isnan(stored) && std::isnan(model[i].first)));
+                EXPECT_EQ(parameter.keyframeValue(i), model[i].second);
+            }
+            for (float probe : times)
+                EXPECT_EQ(parameter.bKeyframeAt(probe), iModelFind(model, probe) >= 0);
+        }
+    }
 }
