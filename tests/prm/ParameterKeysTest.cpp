@@ -142,7 +142,6 @@ TEST(ParameterKeys, GettersOutOfRangeAndSearchesWithTheirTieRules)
     EXPECT_EQ(std::make_tuple(p.keyframeTime(7), p.keyframeValue(7), p.interpolation(7u), p.interpolationData(7).eType),
               std::make_tuple(0.0f, 30.0, InterpolationStep, InterpolationLinear));
     EXPECT_EQ(p.interpolationData(7).dOutTime, 0.0);
-    EXPECT_TRUE(p.bKeyframeAt(10.0f) && !p.bKeyframeAt(10.5f));
     // Each row: a search, the time it starts from, the key time found, or -1: none, the argument left alone.
     for (auto const& row : {std::make_tuple(&Probe::bNearestKeyframeTime, 5.0f, 10.0f), // halfway: the later key
                             {&Probe::bNearestKeyframeTime, 4.9f, 0.0f}, {&Probe::bPreviousKeyframe, 0.0f, -1.0f},
