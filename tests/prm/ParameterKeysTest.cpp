@@ -39,15 +39,14 @@ int iModelFind(Keys<Curve> const& keys, float time)
 // The scan's rules: a value lands on the first key at its time, else before the first key after it.
 int iModelSet(Keys<Curve>& keys, float time, double value)
 {
-    int const at = iModelFind(keys, time);
-    if (at >= 0) {
-        keys[size_t(at)].second = value;
-        return at;
+    int at = iModelFind(keys, time);
+    if (at < 0) {
+        auto const after = std::find_if(keys.begin(), keys.end(), [time](auto const& key) { return key.first > time; });
+        at = int(after - keys.begin());
+        keys.insert(after, {time, value});
     }
-    auto const after = std::find_if(keys.begin(), keys.end(), [time](auto const& key) { return key.first > time; });
-    int const index = int(after - keys.begin());
-    keys.insert(after, {time, value});
-    return index;
+    keys[size_t(at)].second = value;
+    return at;
 }
 
 } // namespace

@@ -32,10 +32,7 @@ TEST(ParameterText, FilterSeesValueTextsOnlyWithTheirQuotes)
 {
     Parameter<QString> p(true, "Label", QString(), InterpolationStep, ExtrapolationHold);
     QStringList seen;
-    Filter const upper = [&seen](QString const& text) {
-        seen << text;
-        return text.toUpper();
-    };
+    Filter const upper = [&seen](QString const& text) { seen << text; return text.toUpper(); };
     for (char const* line : {"keyframes.append( Key( 2, \"low\", Step ) )", "value=\"v\"", "MasterParameterId=a",
                              "hidden=0"})
         EXPECT_TRUE(p.streamInValue(line, upper)) << line;
