@@ -67,7 +67,7 @@ std::string state(P const& parameter)
 /// The text of the data file `tests/prm/data/<name>`, empty (and a failure) if it does not open.
 inline QString qstrDataFile(QString const& name)
 {
-    QFile file(QStringLiteral(TQ_TEST_FOLDER "/data/") + name);
+    QFile file(QStringLiteral(TQ_TEST_FOLDER "/../prm/data/") + name);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
     return QString::fromUtf8(file.readAll());
 }
