@@ -17,13 +17,13 @@ bool bSameBits(Real a, Real b)
     return std::memcmp(&a, &b, sizeof(Real)) == 0 || (std::isnan(a) && std::isnan(b));
 }
 
-/// The rows of data/Numbers.txt marked `mark`, without the mark.
+/// The quoted texts of the rows of data/Numbers.txt marked `mark`, without their quotes.
 QStringList numberRows(QChar mark)
 {
     QStringList rows;
     for (QString const& line : qstrDataFile("Numbers.txt").split('\n'))
         if (line.startsWith(mark))
-            rows << line.mid(2);
+            rows << line.mid(3, line.size() - 4);
     return rows;
 }
 
@@ -31,9 +31,7 @@ QStringList numberRows(QChar mark)
 
 TEST(FastNumberText, ReadsAsQtReads)
 {
-    QStringList texts;
-    for (QString const& row : numberRows('r'))
-        texts << row.mid(1, row.size() - 2);
+    QStringList texts = numberRows('r');
     std::mt19937 random(7); // plain decimals of every length the fast path takes and a little beyond
     auto const digits = [&random](QString& text) {
         for (int n = 1 + int(random() % 20); n > 0; --n)
