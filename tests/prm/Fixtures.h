@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QList>
 #include <QTextStream>
 #include <string>
@@ -61,6 +62,14 @@ std::string state(P const& parameter)
     }
     out.flush();
     return text.toStdString();
+}
+
+/// The text of the data file `tests/prm/data/<name>`, empty (and a failure) if it does not open.
+inline QString qstrDataFile(QString const& name)
+{
+    QFile file(QStringLiteral(TQ_TEST_FOLDER "/../prm/data/") + name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+    return QString::fromUtf8(file.readAll());
 }
 
 /// Sets one key per (time, value) row.

@@ -2,8 +2,10 @@
 #include "prm/NumericParameter.h"
 #include "prm/Parameter.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <random>
 #include <tuple>
 
 using namespace Prm;
@@ -27,6 +29,25 @@ public:
     }
     void setStreamingIn(bool b) { bStreamingIn = b; }
 };
+
+int iModelFind(Keys<Curve> const& keys, float time)
+{
+    auto const at = std::find_if(keys.begin(), keys.end(), [time](auto const& key) { return key.first == time; });
+    return at == keys.end() ? -1 : int(at - keys.begin());
+}
+
+// The scan's rules: a value lands on the first key at its time, else before the first key after it.
+int iModelSet(Keys<Curve>& keys, float time, double value)
+{
+    int at = iModelFind(keys, time);
+    if (at < 0) {
+        auto const after = std::find_if(keys.begin(), keys.end(), [time](auto const& key) { return key.first > time; });
+        at = int(after - keys.begin());
+        keys.insert(after, {time, value});
+    }
+    keys[size_t(at)].second = value;
+    return at;
+}
 
 } // namespace
 
@@ -120,7 +141,6 @@ TEST(ParameterKeys, GettersOutOfRangeAndSearchesWithTheirTieRules)
     EXPECT_EQ(std::make_tuple(p.keyframeTime(7), p.keyframeValue(7), p.interpolation(7u), p.interpolationData(7).eType),
               std::make_tuple(0.0f, 30.0, InterpolationStep, InterpolationLinear));
     EXPECT_EQ(p.interpolationData(7).dOutTime, 0.0);
-    EXPECT_TRUE(p.bKeyframeAt(10.0f) && !p.bKeyframeAt(10.5f));
     // Each row: a search, the time it starts from, the key time found, or -1: none, the argument left alone.
     for (auto const& row : {std::make_tuple(&Probe::bNearestKeyframeTime, 5.0f, 10.0f), // halfway: the later key
                             {&Probe::bNearestKeyframeTime, 4.9f, 0.0f}, {&Probe::bPreviousKeyframe, 0.0f, -1.0f},
@@ -174,7 +194,6 @@ TEST(ParameterKeys, MoveStayingAndCrossingAndReadsAtSharedTimes)
 {
     Probe p; // 0:0, 10:10, 20:30
     ChangeRecorder rec(p);
-    EXPECT_EQ(p.moveAndChangeKeyframe(5.0, 3.0f, 4.0f), -1);
     // To exactly a neighbour's time: stays, two keys at one time.
     EXPECT_EQ(p.moveAndChangeKeyframe(12.0, 10.0f, 20.0f), 1);
     EXPECT_EQ(state(p), "4 | 0:0L 20:12L 20:30L");
@@ -191,10 +210,6 @@ TEST(ParameterKeys, MoveStayingAndCrossingAndReadsAtSharedTimes)
     EXPECT_EQ(q.recordCount(), 4);
     EXPECT_EQ(q.value(25.0f, nullptr), 500.0);
     EXPECT_FALSE(q.signalsBlocked());
-
-    Probe r; // crossing onto a key that stands exactly at the target overwrites it
-    EXPECT_EQ(r.moveAndChangeKeyframe(7.0, 0.0f, 20.0f), 1);
-    EXPECT_EQ(state(r), "4 | 10:10L 20:7L");
 
     // Reads at a key return its stored value; of two keys at one time the halving search meets the earlier.
     Probe t(InterpolationLinear, {{0.0f, 1.0}, {10.0f, 2.0}, {20.0f, 3.0}, {25.0f, 4.0}, {30.0f, 5.0}});
@@ -231,4 +246,43 @@ TEST(ParameterKeys, AssignmentAndCopyOfKeyframeData)
     assigned = other;
     EXPECT_EQ(std::make_pair(assigned.qstrScriptName(), assigned.defaultValue()), std::make_pair(QString("Other"), 1.0));
     EXPECT_EQ(state(assigned), "1 | 1:2L");
+}
+
+// Keys are looked up by halving while they are known to be in order, and by a scan from the first key
+// otherwise (NaN times and moves can leave them out of order). Both must find what the scan finds.
+TEST(ParameterKeys, SetMoveAndDeleteFindTheKeysTheScanFinds)
+{
+    float const times[] = {0.0f, 1.0f, 2.0f, 3.0f, 5.0f, 8.0f, -1.0f, -0.0f, std::nanf("")};
+    std::mt19937 random(3);
+    for (int round = 0; round < 200; ++round) {
+        Curve parameter(true, "P", 0.0, -1e9, 1e9, InterpolationLinear, ExtrapolationHold);
+        Keys<Curve> model;
+        for (int step = 0; step < 40; ++step) {
+            float const time = times[random() % 9];
+            int const kind = random() % 6, at = iModelFind(model, time);
+            float const to = kind == 0 ? times[random() % 9] : time;
+            // A move that stays in place may leave the keys out of order around a NaN neighbour.
+            bool const bStays = kind == 0 && at >= 0 && (at == 0 || !(to < model[size_t(at) - 1].first)) &&
+                                (at + 1 == int(model.size()) || !(model[size_t(at) + 1].first < to));
+            if (bStays)
+                model[size_t(at)] = {to, step};
+            else if (at >= 0 && kind < 2)
+                model.erase(model.begin() + at);
+            if (kind == 0)
+                EXPECT_EQ(parameter.moveAndChangeKeyframe(step, time, to),
+                          bStays ? at : at >= 0 ? iModelSet(model, to, step) : -1);
+            else if (kind == 1)
+                parameter.vDeleteKeyframe(time);
+            else
+                EXPECT_EQ(parameter.vSetValue(step, time), iModelSet(model, time, step));
+            ASSERT_EQ(parameter.keyframeCount(), model.size());
+            for (unsigned int i = 0; i < model.size(); ++i) {
+                float const stored = parameter.keyframeTime(i);
+                EXPECT_TRUE(stored == model[i].first || (std::isnan(stored) && std::isnan(model[i].first)));
+                EXPECT_EQ(parameter.keyframeValue(i), model[i].second);
+            }
+            for (float probe : times)
+                EXPECT_EQ(parameter.bKeyframeAt(probe), iModelFind(model, probe) >= 0);
+        }
+    }
 }

@@ -3,7 +3,6 @@
 #include "prm/NumericParameter.h"
 #include "prm/text/CurveTypeNames.h"
 
-#include <QFile>
 #include <limits>
 #include <memory>
 
@@ -40,9 +39,7 @@ inline std::unique_ptr<Prm::ParameterWithoutType> caseParameter(QStringList cons
 /// Runs the cases of the data file `tests/prm/data/<name>`; ParameterText.txt's head describes the format.
 inline void vRunTextCases(char const* name)
 {
-    QFile file(QStringLiteral(TQ_TEST_FOLDER "/data/") + name);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text)) << name;
-    QStringList const lines = QString::fromUtf8(file.readAll()).split('\n') << "@ end";
+    QStringList const lines = qstrDataFile(name).split('\n') << "@ end";
     LogCapture log;
     std::unique_ptr<Prm::ParameterWithoutType> p;
     std::string expected, expectedLog;

@@ -84,9 +84,7 @@ TEST(ParameterSet, RegistersNamesAndOwnsBasicParametersOnRequest)
 // share a name each read their own block.
 TEST(ParameterSet, WholeTextRoundTripWithNestedSetsSharedNamesAndMasters)
 {
-    QFile file(TQ_TEST_FOLDER "/data/CoreSet.txt");
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    QString const text = QString::fromUtf8(file.readAll());
+    QString const text = qstrDataFile("CoreSet.txt");
     RootSet set;
     LogCapture log;
     ParameterTextDocument document(set);

@@ -1,11 +1,9 @@
+#include "../Fixtures.h"
 #include "prm/text/CurveTypeNames.h"
 #include "prm/text/ParameterLine.h"
 #include "prm/text/StreamOperators.h"
 #include "prm/text/ValueText.h"
 
-#include <gtest/gtest.h>
-
-#include <QTextStream>
 #include <vector>
 
 using namespace Prm;
@@ -39,25 +37,12 @@ TEST(ParameterTextStreamOperators, BoolAndUnsignedCharAreDigits)
 
 TEST(ParameterTextKeyframeDeclaration, SplitsTheInnerCallHonouringQuotes)
 {
-    std::pair<char const*, QStringList> const rows[] = {
-        {"keyframes.append( Key( 1, 0.5, Linear ) )", {"1", "0.5", "Linear"}},
-        {"keyframes.append( BezierKey( 1, 0.5, 8, 0.1, -8, -0.1 ) )", {"1", "0.5", "8", "0.1", "-8", "-0.1"}},
-        {"KEYFRAMES.APPEND(KEY(2,3,STEP))", {"2", "3", "STEP"}},
-        // Commas and parentheses inside quotes belong to the value, and the quotes stay for the reader.
-        {"keyframes.append( Key( 4, \"a, (b)\", Step ) )", {"4", "\"a, (b)\"", "Step"}},
-        {"keyframes.append( Key( 1, 2", {"1", "2"}}, // an unclosed call still gives its entries
-        // Quotes that do not pair up around a value as written: the value runs to the line's last quote.
-        {"keyframes.append( Key( 1, \"a\"b\", Step ) )", {"1", "\"a\"b\"", "Step"}},
-        {"keyframes.append( Key( 1, \"say \"hi, there\"\", Step ) )", {"1", "\"say \"hi, there\"\"", "Step"}},
-        {"keyframes.append( BezierKey( 1, \"\"\", 1, 2, 3, 4 ) )", {"1", "\"\"\"", "1", "2", "3", "4"}},
-        // With nothing but a parenthesis behind the last quote, the line splits as it always did.
-        {"keyframes.append( Key( 1, \"a\", \"Step\" ) )", {"1", "\"a\"", "\"Step\""}},
-        {"keyframes.append( Key( 1, \"\"\" ) )", {"1", "\"\"\" ) )"}},
-        {"keyframes.append( Key( 1 ) )", {"1"}},
-        {"keyframes", {}},
-    };
-    for (auto const& row : rows)
-        EXPECT_EQ(parseKeyframeDeclaration(row.first), row.second) << row.first;
+    for (QString const& line : qstrDataFile("KeyLines.txt").split('\n')) {
+        QStringList entries = line.split(" | ");
+        if (line.isEmpty() || line.startsWith('#'))
+            continue;
+        EXPECT_EQ(parseKeyframeDeclaration(entries.takeFirst()), entries) << line.toStdString();
+    }
 }
 
 TEST(ParameterTextCurveNames, NamesRoundTripAndReadersAreLenient)

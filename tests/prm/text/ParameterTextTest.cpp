@@ -32,10 +32,7 @@ TEST(ParameterText, FilterSeesValueTextsOnlyWithTheirQuotes)
 {
     Parameter<QString> p(true, "Label", QString(), InterpolationStep, ExtrapolationHold);
     QStringList seen;
-    Filter const upper = [&seen](QString const& text) {
-        seen << text;
-        return text.toUpper();
-    };
+    Filter const upper = [&seen](QString const& text) { seen << text; return text.toUpper(); };
     for (char const* line : {"keyframes.append( Key( 2, \"low\", Step ) )", "value=\"v\"", "MasterParameterId=a",
                              "hidden=0"})
         EXPECT_TRUE(p.streamInValue(line, upper)) << line;
@@ -52,14 +49,13 @@ TEST(ParameterText, FailedKeyLineLeavesAPlainParameterStreamingAndANumericOneRep
     handles.dOutTime = 5.0;
     Parameter<double> plain(true, "Gain", 0.0, InterpolationBezier, ExtrapolationHold);
     Curve numeric(true, "Gain", 0.0, -10.0, 10.0, InterpolationBezier, ExtrapolationHold);
-    plain.vSetValue(1.0, 0.0f);
-    numeric.vSetValue(1.0, 0.0f);
-    plain.vSetInterpolationData(handles, 0);
-    numeric.vSetInterpolationData(handles, 0);
-    EXPECT_FALSE(plain.bStreamInLine("keyframes.append( Key( 1 ) )"));
-    EXPECT_FALSE(numeric.bStreamInLine("keyframes.append( Key( 1 ) )"));
-    plain.vSetValue(2.0, 10.0f);
-    numeric.vSetValue(2.0, 10.0f);
+    auto const fail = [&handles](auto& p) {
+        withKeys(p, {{0.0f, 1.0}}).vSetInterpolationData(handles, 0);
+        EXPECT_FALSE(p.bStreamInLine("keyframes.append( Key( 1 ) )"));
+        p.vSetValue(2.0, 10.0f);
+    };
+    fail(plain);
+    fail(numeric);
     // Still streaming, the plain one leaves the old last segment alone; the numeric one's bStreamIn cleared it.
     EXPECT_EQ(std::make_pair(plain.interpolationData(0).dOutTime, numeric.interpolationData(0).dOutTime),
               std::make_pair(5.0, 1.0));
