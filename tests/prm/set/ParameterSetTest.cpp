@@ -172,6 +172,9 @@ TEST(ParameterSet, NameIndexFollowsRenamesAndAdditionsAfterUnknownLines)
     for (char const* line : {"Renamed.value=4", "Late.value=6", "Zone.Width.value=7", "Extra.value=8"})
         EXPECT_TRUE(set.bStreamIn(line)) << line;
     EXPECT_FALSE(set.bStreamIn("Gain.value=5") || set.bStreamIn("Added.value=3")) << "old names and the dead";
+    // A line that keeps the set's own name, as a qualified write gives it, reads; the name alone does not.
+    EXPECT_TRUE(set.bStreamIn("Core.Renamed.value=4") && set.bStreamIn("Core.Zone.Width.value=7"));
+    EXPECT_FALSE(set.bStreamIn("Core.Gain.value=5") || set.bStreamIn("Core.value=5") || set.bStreamIn("Zone.Core.x=1"));
     EXPECT_EQ(std::make_tuple(set.gain.staticValue(), set.follower.staticValue(), set.roi.width.staticValue(), extra),
               std::make_tuple(4.0, 6.0, 7.0, 8));
 }
