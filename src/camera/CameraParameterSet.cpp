@@ -166,12 +166,12 @@ Gan_Camera TQ_CameraParameterSet::getCamera(unsigned int frame, TQ_BaseClipInfo 
         frame = bFieldBased(clipInfo.eInterlaceMode) ? (frame & 1u) : 0u;
     Bsc::Hash const hash = contentHash(frame, clipInfo);
     auto const known = cameraHashes.constFind(frame);
-    auto cached = cameras.find(frame);
-    if (known == cameraHashes.constEnd() || !(*known == hash) || cached == cameras.end()) {
+    if (known == cameraHashes.constEnd() || !(*known == hash)) {
         cameraHashes.insert(frame, hash);
-        cached = cameras.insert(frame, getCameraDefinition(frame));
+        cameras.insert(frame, getCameraDefinition(frame));
     }
-    return cached->toGanCamera(frame, clipInfo);
+    // A matching hash vouches for the entry; one the application removed comes back as a default camera.
+    return cameras[frame].toGanCamera(frame, clipInfo);
 }
 
 TQ_LineParameters* TQ_CameraParameterSet::getLineParameters(unsigned int key, bool create)

@@ -136,8 +136,8 @@ public:
     /// Set by the application; empty by default.
     ImageProvider imageProvider;
     /// The caches of `getCamera`, by folded frame: the content hash each camera was built for, and the
-    /// camera. Open to the application for inspection; entries written here are checked against the
-    /// hash like any other.
+    /// camera. Open to the application for inspection. Only the hash decides whether an entry is
+    /// rebuilt: a camera removed while its hash stays is read back as a default TQ::Camera.
     mutable QMap<unsigned int, Bsc::Hash> cameraHashes;
     mutable QMap<unsigned int, TQ::Camera> cameras;
 

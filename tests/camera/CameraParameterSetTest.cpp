@@ -106,6 +106,9 @@ TEST(CameraParameterSet, CacheHoldsOneCameraPerClipFieldOrAnimatedFrame)
     info.FrameWidth = 1024;
     EXPECT_EQ(512.0, set.getCamera(10, &info).zh);
     EXPECT_EQ(48, set.cameras.size());
+    // Only the hash decides: a camera removed behind a matching hash reads back as a default one.
+    set.cameras.remove(10);
+    EXPECT_TRUE(set.getCamera(10, &info).fx == 0.0 && set.cameras.value(10).focalDistance == 0.0f);
 }
 
 TEST(CameraParameterSet, HashFeedsTheLensAndClipValuesInOrderAsTheirBytes)
