@@ -5,7 +5,6 @@
 #include <QString>
 #include <QStringView>
 #include <QVector>
-#include <algorithm>
 #include <array>
 #include <cstring>
 

@@ -6,8 +6,6 @@
 #include <QString>
 #include <QTextStream>
 #include <QVariant>
-#include <algorithm>
-#include <cmath>
 #include <type_traits>
 
 namespace Prm {
